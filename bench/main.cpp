@@ -1,0 +1,313 @@
+// Measures the program in its real windows. Figures that depend on the machine are ratios against a bare baseline of
+// the same run.
+#include <dirent.h>
+#include <sys/resource.h>
+
+#include <QApplication>
+#include <QListWidget>
+#include <QProcess>
+#include <QWindow>
+#include <iostream>
+
+#include "Measure.h"
+#include "Stage.h"
+#include "app/Start.h"
+#include "desktop/Style.h"
+#include "forms/ListBox.h"
+#include "forms/TextBox.h"
+#include "forms/Timer.h"
+#include "forms/User.h"
+#include "forms/VScrollBar.h"
+
+namespace fs = std::filesystem;
+using namespace bench;
+
+namespace {
+
+const std::string kSamples = SAMPLES_DIR;
+
+long peak_memory() {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss;
+}
+
+void set_up_look() {
+    QApplication::setStyle(new desktop::Style);
+    QApplication::setPalette(desktop::Style::colours());
+    QApplication::setQuitOnLastWindowClosed(false);
+}
+
+// Names of the subfolders, as a bare scan gives them.
+std::size_t scan(const fs::path& folder) {
+    std::vector<std::string> names;
+    DIR* open = opendir(folder.c_str());
+    for (const dirent* entry = readdir(open); entry; entry = readdir(open)) {
+        if (entry->d_type == DT_DIR) names.emplace_back(entry->d_name);
+    }
+    closedir(open);
+    return names.size();
+}
+
+double median_of(int times, const std::function<double()>& measure) {
+    std::vector<double> values;
+    for (int i = 0; i < times; ++i) values.push_back(measure());
+    return median(values);
+}
+
+void measure_table(Report& report) {
+    Stage stage(kSamples, 0, 0);
+    std::vector<double> opened;
+    std::vector<double> ticks;
+    for (int round = 0; round < 25; ++round) {
+        stage.choose("frmTavrin01", "lstSpellen", "QVT_Spel 001");
+        stage.paint();
+        opened.push_back(stage.painted([&] { stage.click("frmTavrin01", "cmdTavrin"); }));
+        stage.click("frmTavrin02", "cmdStart");
+        auto& timer = stage.control<forms::Timer>("frmTavrin02", "timSpeelKaart");
+        auto& verder = stage.form("frmTavrin02").control("cmdVerder");
+        while (stage.programma.gedeeld.kaartTeller < 52) {
+            if (verder.Visible()) {
+                stage.click("frmTavrin02", "cmdVerder");
+            } else {
+                ticks.push_back(stage.painted([&] { forms::user::tick(timer); }));
+            }
+        }
+        forms::user::key(stage.form("frmTavrin02"), forms::kKeyEscape);
+        stage.paint();
+    }
+    report.add_times("table: click to painted", opened, 50);
+    report.add_times("table: tick to painted", ticks, 8);
+}
+
+void measure_timer(Report& report) {
+    Stage stage(kSamples, 0, 0);
+    const fs::path texts = stage.folder() / "aftavrin/QVT_Spel 001/QVT_Spel 001 informatie.txt";
+    fs::remove(texts);
+    std::vector<double> off;
+    for (int round = 0; round < 3; ++round) {
+        stage.choose("frmTavrin01", "lstSpellen", "QVT_Spel 001");
+        stage.click("frmTavrin01", "cmdTavrin");
+        stage.programma.gedeeld.speelSnelheid = 100;
+        auto& timer = stage.control<forms::Timer>("frmTavrin02", "timSpeelKaart");
+        std::vector<Clock::time_point> moments;
+        timer.Tick = [&moments, tick = timer.Tick] {
+            moments.push_back(Clock::now());
+            tick();
+        };
+        stage.click("frmTavrin02", "cmdStart");
+        while (stage.programma.gedeeld.kaartTeller < 52) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+        for (std::size_t i = 1; i < moments.size(); ++i) {
+            const double gap = std::chrono::duration<double, std::milli>(moments[i] - moments[i - 1]).count();
+            off.push_back(std::abs(gap - 100));
+        }
+        forms::user::key(stage.form("frmTavrin02"), forms::kKeyEscape);
+    }
+    report.add("timer at 100 ms: how far off, 99th percentile", percentile99(off), "ms", 5);
+}
+
+void measure_lists(Report& report) {
+    constexpr int kPackages = 10000;
+    constexpr int kDeals = 1000;
+    Stage stage(kSamples, kPackages, kDeals);
+    const auto packages = [&] { return time_of([&] { scan(stage.folder() / "aftavrin"); }); };
+    const auto deals = [&] { return time_of([&] { scan(stage.folder() / "RVLX/Spellen"); }); };
+    const double scan_packages = median_of(9, packages);
+    const double scan_both = scan_packages + median_of(9, deals);
+    forms::Form& main = stage.form("frmTavrin01");
+    // A click on the sort box reads and shows the list anew.
+    const double list = median_of(9, [&] { return stage.painted([&] { forms::user::click(main.control("chkSorteer")); }); });
+    report.add("10,000 packages: list read and shown against a bare scan", list / scan_packages, "ratio", 3);
+    const double screen = median_of(9, [&] {
+        const double time = stage.painted([&] { stage.click("frmTavrin01", "cmdNieuwSpel"); });
+        forms::user::key(stage.form("frmTavrin03"), forms::kKeyEscape);
+        stage.paint();
+        return time;
+    });
+    report.add("preparation screen with 10,000 packages and 1,000 deals against two scans", screen / scan_both, "ratio", 4);
+}
+
+void measure_preparation(Report& report) {
+    Stage stage(kSamples, 0, 0);
+    stage.click("frmTavrin01", "cmdNieuwSpel");
+    stage.paint();
+    auto& deals = stage.control<forms::ListBox>("frmTavrin03", "lstRVLX");
+    std::vector<double> loads;
+    for (int round = 0; round < 100; ++round) {
+        loads.push_back(stage.painted([&] { forms::user::select(deals, round % deals.ListCount()); }));
+    }
+    report.add_times("preparation: companion deal loaded to painted", loads, 50);
+
+    // Noord's highest diamond, played on the lead and taken back, again and again.
+    stage.choose("frmTavrin03", "lstRVLX", "Spel 001");
+    std::vector<double> clicks;
+    for (int round = 0; round < 300; ++round) {
+        clicks.push_back(stage.painted([&] { stage.click("frmTavrin03", "lblRuitenNoord", 0); }));
+    }
+    report.add_times("preparation: card click to painted", clicks, 8);
+}
+
+void measure_editor(Report& report) {
+    Stage stage(kSamples, 0, 0);
+    stage.click("frmTavrin01", "cmdKaartenEditor");
+    stage.paint();
+    auto& deals = stage.control<forms::ListBox>("frmTavrin05", "lstSpellen");
+    auto& tricks = stage.control<forms::VScrollBar>("frmTavrin05", "vscrSlag");
+    auto& text = stage.control<forms::TextBox>("frmTavrin05", "txtInformatie");
+    std::vector<double> chosen, steps, stores, overviews;
+    for (int round = 0; round < 60; ++round) {
+        chosen.push_back(stage.painted([&] { forms::user::select(deals, round % deals.ListCount()); }));
+        steps.push_back(stage.painted([&] { forms::user::scroll(tricks, 12 - round % 12 - 1); }));
+        forms::user::click(stage.form("frmTavrin05").control("picYesNo", round % 52));
+        forms::user::type_all(text, "Een tekst van ronde " + std::to_string(round));
+        stage.paint();
+        stores.push_back(stage.painted([&] { stage.click("frmTavrin05", "cmdGebruiken"); }));
+        if (round % 3 != 0) continue;
+        overviews.push_back(stage.painted([&] { stage.click("frmTavrin05", "cmdToonSpel"); }));
+        forms::user::key(stage.form("frmTavrin06"), forms::kKeyEscape);
+        stage.paint();
+    }
+    report.add_times("editor: deal chosen to painted", chosen, 16);
+    report.add_times("editor: step of the scroll bar to painted", steps, 16);
+    report.add_times("editor: text stored to painted", stores, 16);
+    report.add_times("overview: click to painted", overviews, 50);
+}
+
+// A child of this program that shows a window, tells when it is painted, and then how much memory it took at most.
+int run_child(const QString& what) {
+    set_up_look();
+    if (what == QStringLiteral("empty")) {
+        QWidget window;
+        window.resize(463, 339);
+        QListWidget list(&window);
+        list.setGeometry(250, 36, 195, 199);
+        window.show();
+        while (!window.windowHandle()->isExposed()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 5);
+        for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
+        std::cout << "painted\n" << peak_memory() << std::endl;
+        return 0;
+    }
+    Stage stage(kSamples, 0, 0);
+    std::cout << "painted\n" << peak_memory() << std::endl;
+    return 0;
+}
+
+struct ChildFigures {
+    double start;
+    double memory;
+};
+
+ChildFigures child(const QString& what) {
+    QProcess process;
+    ChildFigures figures{};
+    const auto begin = Clock::now();
+    process.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--child"), what});
+    process.waitForReadyRead(20000);
+    figures.start = milliseconds_since(begin);
+    process.waitForFinished(20000);
+    const QList<QByteArray> lines = process.readAllStandardOutput().split('\n');
+    figures.memory = lines.size() > 1 ? lines[1].toDouble() : 0;
+    return figures;
+}
+
+void measure_start(Report& report) {
+    std::vector<double> starts, memories;
+    child(QStringLiteral("empty"));
+    child(QStringLiteral("main"));
+    for (int round = 0; round < 11; ++round) {
+        const ChildFigures empty = child(QStringLiteral("empty"));
+        const ChildFigures main = child(QStringLiteral("main"));
+        starts.push_back(main.start / empty.start);
+        memories.push_back(main.memory / empty.memory);
+    }
+    report.add("start to painted main screen against an empty window with a list", median(starts), "ratio", 1.5);
+    report.add("peak memory of it against the same", median(memories), "ratio", 1.5);
+}
+
+double copy_time(const std::string& from, const fs::path& to) {
+    fs::remove_all(to);
+    fs::create_directories(to);
+    return time_of([&] { (void)!std::system(("cp -r \"" + from + "\"/. \"" + to.string() + "\"").c_str()); });
+}
+
+// A platform with one stick, which is a folder.
+class StickPlatform final : public Platform {
+public:
+    StickPlatform(std::string folder, std::string stick) : folder_(std::move(folder)), stick_(std::move(stick)) {}
+    std::string program_folder() const override { return folder_; }
+    std::string special_folder(int) const override { return folder_; }
+    bool another_instance_runs() override { return false; }
+    Answer message_box(int, const std::string&, const std::string&) override { return Answer::Yes; }
+    void set_clipboard(const std::string&) override {}
+    void open(const std::string&, const std::string&, const std::string&) override {}
+    void show_help(const std::string&) override {}
+    bool connected() override { return false; }
+    bool download(const std::string&, const std::string&) override { return false; }
+    std::vector<std::string> drives() override { return {stick_}; }
+    int drive_type(const std::string&) override { return 2; }
+    std::string volume_label(const std::string&) override { return "STICK"; }
+    void send_keys(const std::vector<KeyRecord>&) override {}
+    bool caps_lock() const override { return false; }
+
+private:
+    std::string folder_;
+    std::string stick_;
+};
+
+void measure_exchange(Report& report, const fs::path& stick) {
+    constexpr int kPackages = 1000;
+    Stage stage(kSamples, kPackages, 0);
+    StickPlatform platform(stage.folder().string(), stick.string());
+    Programma programma(platform, stage.host);
+    stage.host.attach(programma.windows);
+    start(programma);
+    const auto press = [&](const char* name) { forms::user::click(programma.windows.find("frmTavrin07")->control(name)); };
+    forms::user::click(programma.windows.find("frmTavrin01")->control("cmdImportExport"));
+    const fs::path on_stick = stick / "QVT_Spellen";
+    const fs::path scratch = stick / "scratch";
+    const fs::path root = stage.folder() / "aftavrin";
+    std::vector<double> exports, imports;
+    for (int round = 0; round < 5; ++round) {
+        fs::remove_all(on_stick);
+        const double bare = copy_time(root.string(), scratch);
+        press("chkSelecteerExporteer");
+        exports.push_back(time_of([&] { press("cmdExporteer"); }) / bare);
+    }
+    forms::user::key(*programma.windows.find("frmTavrin07"), forms::kKeyEscape);
+    forms::user::click(programma.windows.find("frmTavrin01")->control("cmdImportExport"));
+    for (int round = 0; round < 5; ++round) {
+        fs::remove_all(root);
+        fs::create_directory(root);
+        const double bare = copy_time(on_stick.string(), scratch);
+        press("chkSelecteerImporteer");
+        imports.push_back(time_of([&] { press("cmdImporteer"); }) / bare);
+    }
+    report.add("export of 1,000 packages against cp -r", median(exports), "ratio", 1.3);
+    report.add("import of 1,000 packages against cp -r", median(imports), "ratio", 1.3);
+    stage.host.close_all();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    const QStringList words = QApplication::arguments();
+    if (words.size() == 3 && words[1] == QStringLiteral("--child")) return run_child(words[2]);
+    if (words.size() != 2) {
+        std::cerr << "usage: zandolin_bench FILE\n";
+        return 2;
+    }
+    set_up_look();
+    Report report(words[1].toStdString());
+    measure_start(report);
+    measure_table(report);
+    measure_timer(report);
+    measure_lists(report);
+    measure_preparation(report);
+    measure_editor(report);
+    const fs::path stick = fs::temp_directory_path() / "zandolin-bench-stick";
+    fs::create_directories(stick);
+    measure_exchange(report, stick);
+    fs::remove_all(stick);
+    return 0;
+}

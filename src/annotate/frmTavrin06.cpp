@@ -1,0 +1,117 @@
+#include "annotate/frmTavrin06.h"
+
+#include "cards/Kaarten.h"
+#include "services/Bas_Aftavrin.h"
+
+namespace {
+
+constexpr forms::Size kInner{7395, 6060};
+constexpr double kKaartBreedte = 1005;
+constexpr double kKaartHoogte = 1485;
+constexpr int kKleinePlaatjes = 100;  // what a small face's number is less than the card's code
+constexpr double kStartLinks = 1000;
+constexpr double kStap = 300;
+constexpr double kNoordBoven = 120;
+constexpr double kZuidBoven = 4265;
+constexpr double kKleurenBoven = kNoordBoven + 1600;
+constexpr double kWestLinks = 100;
+constexpr double kOostOntwerp = 3500;  // left of East's first card before it is placed
+constexpr double kMaxLetter = 11.5;    // points
+constexpr Colour kTafelgroen = Colour::rgb(24, 96, 60);
+
+}  // namespace
+
+frmTavrin06::frmTavrin06(Programma& programma)
+    : Scherm(programma, "frmTavrin06", kInner),
+      HandLijsten(static_cast<forms::Form&>(*this)),
+      picKaart{forms::ControlArray<forms::PictureBox>(picBack, "picKaartNoord", {{0, {0, 0, kKaartBreedte, kKaartHoogte}}}),
+               forms::ControlArray<forms::PictureBox>(picBack, "picKaartOost",
+                                                      {{0, {kOostOntwerp, 0, kKaartBreedte, kKaartHoogte}}}),
+               forms::ControlArray<forms::PictureBox>(picBack, "picKaartZuid", {{0, {0, 0, kKaartBreedte, kKaartHoogte}}}),
+               forms::ControlArray<forms::PictureBox>(picBack, "picKaartWest", {{0, {0, 0, kKaartBreedte, kKaartHoogte}}})} {
+    picBack.BackColor = kTafelgroen;
+    picPlay.Visible = false;
+    fraSlagen.Visible = false;
+    for (auto& hand : picKaart) {
+        hand.each([](forms::PictureBox& kaart) {
+            kaart.Opaque = false;
+            kaart.BorderStyle = 1;
+            kaart.Visible = false;
+        });
+    }
+    cmdTerug.Click = [this] { Foutpad("frmTavrin06 - cmdTerug - Click", [&] { Form_QueryUnload(); }); };
+}
+
+void frmTavrin06::Form_Load() {
+    Foutpad("frmTavrin06 - Form - Load", [&] {
+        programma.maten.maxLetterGrootte = kMaxLetter;
+        gedeeld.delen = split(gedeeld.spelNaam, " ");
+        Caption = LeesResString(10013) + " " + std::to_string(numeric_value(gedeeld.delen[1]));
+        picBack.Move(static_cast<int>(Width - picBack.Width) / 2, static_cast<int>(Height - picBack.Height) / 2);
+        cmdTerug.Caption = "&" + LeesResString(10018);
+        for (int i = 1; i <= kaart::kKaartenPerKleur; ++i) {
+            for (auto& hand : picKaart) hand.Load(i).ZOrder();
+        }
+        vul_kaarten();
+        Kaarten::LeesKartenBestandIn(*this, *this);
+        Kaarten::VerdeelDeKaarten(*this, *this);
+        leg_rij(1, kNoordBoven);
+        leg_kleuren(2, picKaart[1](0).Width + picKaart[1](0).Left, true);
+        leg_rij(3, kZuidBoven);
+        leg_kleuren(4, kWestLinks, false);
+        cmdTerug.ZOrder();
+        centreer();
+        Bas_Aftavrin::BewaarMaten(programma, *this);
+    });
+}
+
+void frmTavrin06::leg_kaart(forms::PictureBox& plek, const std::string& code, double links, double boven) {
+    const int kaartcode = numeric_value(code);
+    plek.Picture = Bas_Aftavrin::LaadPlaatje(kaartcode - kKleinePlaatjes);
+    plek.AccessibleName = kaart::titel(kaartcode);
+    plek.Tag = code;
+    plek.BorderStyle = 0;
+    plek.Move(links, boven);
+    plek.Visible = true;
+}
+
+// One row over all suits.
+void frmTavrin06::leg_rij(int plaats, double boven) {
+    int n = 0;
+    for (const kaart::Kleur kleur : kaart::kToonVolgorde) {
+        const forms::ListBox& lijst = suit(kleur, plaats);
+        for (int i = 0; i < lijst.ListCount(); ++i, ++n) {
+            leg_kaart(picKaart[static_cast<std::size_t>(plaats - 1)](n + 1), lijst.List(i), kStartLinks + n * kStap, boven);
+        }
+    }
+}
+
+// One row a suit. Within the frame's bound a row that would pass it moves to the left, and those after it too.
+void frmTavrin06::leg_kleuren(int plaats, double links, bool binnen_kader) {
+    double boven = kKleurenBoven;
+    int element = 0;
+    for (const kaart::Kleur kleur : kaart::kToonVolgorde) {
+        const forms::ListBox& lijst = suit(kleur, plaats);
+        const double breedte = lijst.ListCount() * gedeeld.kaartStap + kKaartBreedte;
+        while (binnen_kader && breedte + links > fraSlagen.Left - 128) links -= kStap;
+        for (int i = 0; i < lijst.ListCount(); ++i) {
+            leg_kaart(picKaart[static_cast<std::size_t>(plaats - 1)](++element), lijst.List(i), links + i * kStap, boven);
+        }
+        boven += kStap;
+    }
+}
+
+void frmTavrin06::Form_Resize() { Bas_Aftavrin::PasMatenAan(programma, *this); }
+
+void frmTavrin06::Form_KeyUp(int key_code) {
+    Foutpad("frmTavrin06 - Form - KeyUp", [&] {
+        if (key_code == forms::kKeyEscape) Form_QueryUnload();
+    });
+}
+
+void frmTavrin06::Form_QueryUnload() {
+    Foutpad("frmTavrin06 - Form - QueryUnload", [&] {
+        if (gedeeld.vorigScherm == 5) programma.schermen.toon("frmTavrin05");
+        Unload();
+    });
+}

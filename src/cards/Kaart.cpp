@@ -1,0 +1,48 @@
+#include "cards/Kaart.h"
+
+#include <algorithm>
+
+namespace kaart {
+
+namespace {
+
+constexpr Colour kZwart{0};
+constexpr Colour kRood{255};
+
+constexpr std::array<KleurGegevens, 4> kGegevens{{{34, 27, "schoppen", 109, kZwart},
+                                                  {35, 28, "harten", 108, kRood},
+                                                  {36, 29, "ruiten", 107, kRood},
+                                                  {37, 30, "klaveren", 106, kZwart}}};
+
+}  // namespace
+
+const KleurGegevens& gegevens(Kleur kleur) { return kGegevens[static_cast<std::size_t>(kleur)]; }
+
+Kleur kleur_van(int kaartnummer) {
+    if (kaartnummer < 14) return Kleur::Schoppen;
+    if (kaartnummer < 27) return Kleur::Harten;
+    return kaartnummer < 40 ? Kleur::Ruiten : Kleur::Klaveren;
+}
+
+const std::array<std::string, 13>& waarde_woorden() {
+    static const std::array<std::string, 13> words{"2", "3",  "4",    "5",     "6",    "7",  "8",
+                                                   "9", "10", "Boer", "Vrouw", "Heer", "Aas"};
+    return words;
+}
+
+int rang_van_uitkomst(std::string_view woord) {
+    static constexpr std::array<std::string_view, 13> kWoorden{"2", "3", "4",    "5",     "6",    "7",  "8",
+                                                               "9", "t", "boer", "vrouw", "heer", "aas"};
+    const auto found = std::ranges::find(kWoorden, woord);
+    return found == kWoorden.end() ? 0 : static_cast<int>(found - kWoorden.begin()) + 2;
+}
+
+std::string titel(int kaartcode) {
+    const int nummer = kaartcode - kCodeBasis;
+    if (nummer < 1 || nummer > 52) return {};
+    std::string naam = gegevens(kleur_van(nummer)).naam;
+    naam.front() = static_cast<char>(naam.front() - 'a' + 'A');
+    return naam + " " + waarde_woorden()[static_cast<std::size_t>((nummer - 1) % kKaartenPerKleur)];
+}
+
+}  // namespace kaart

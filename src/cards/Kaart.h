@@ -1,0 +1,62 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "base/Colour.h"
+
+// Codes of seats, suits and cards.
+//
+// Seats run clockwise from 1 Noord over 2 Oost and 3 Zuid to 4 West; the odd ones are Noord-Zuid. A card number runs
+// from 1 to 52 through Schoppen, Harten, Ruiten and Klaveren, each from the two up to the ace; the card code is 2200
+// more, and is at the same time the number of the card's large picture.
+namespace kaart {
+
+inline constexpr int kCodeBasis = 2200;
+inline constexpr int kKaartRug = 2253;
+inline constexpr int kKaartenPerKleur = 13;
+
+// The suits in the order of the card numbers. The digit of an opening lead counts in this order, the strain digit of
+// a bid in the opposite one, and open hands are shown in a third; the three are deliberately not unified.
+enum class Kleur { Schoppen, Harten, Ruiten, Klaveren };
+inline constexpr std::array kKleuren{Kleur::Schoppen, Kleur::Harten, Kleur::Ruiten, Kleur::Klaveren};
+inline constexpr std::array kToonVolgorde{Kleur::Schoppen, Kleur::Harten, Kleur::Klaveren, Kleur::Ruiten};
+
+struct KleurGegevens {
+    int letter;         // message of the suit letter
+    int woord;          // message of the suit word
+    const char* naam;   // the word in a contract, lower case
+    int plaatje;        // picture of the suit symbol
+    Colour tekstkleur;  // black or pure red
+};
+const KleurGegevens& gegevens(Kleur kleur);
+
+// 110 is the picture of no trump, and "sa" its word in a contract.
+inline constexpr int kPlaatjeSansAtout = 110;
+
+// Suit of a card number; any number below 14 is Schoppen, any above 39 Klaveren.
+Kleur kleur_van(int kaartnummer);
+
+// Code of a card from its rank value, 2 to 14, and its suit.
+constexpr int code_van(int rang, Kleur kleur) { return 2199 + rang + kKaartenPerKleur * static_cast<int>(kleur); }
+
+// Message of the value letter of a rank value 10 to 14 ("T", "B", "V", "H", "A").
+constexpr int bericht_van_rang(int rang) { return 56 - rang; }
+
+// Message of a seat's word and of its letter.
+constexpr int bericht_van_plaats(int plaats) { return 18 + plaats; }
+constexpr int letter_van_plaats(int plaats) { return 37 + plaats; }
+constexpr int volgende_plaats(int plaats) { return plaats % 4 + 1; }
+constexpr int vorige_plaats(int plaats) { return (plaats + 2) % 4 + 1; }
+
+// Value words from the two up: "2" to "10", "Boer", "Vrouw", "Heer", "Aas".
+const std::array<std::string, 13>& waarde_woorden();
+
+// Rank value, 2 to 14, of a value word in the line of an opening lead, in lower case; 0 for any other text.
+int rang_van_uitkomst(std::string_view woord);
+
+// What the card is called, for a screen reader: "Schoppen Aas". Empty for a code that is no card.
+std::string titel(int kaartcode);
+
+}  // namespace kaart

@@ -1,0 +1,97 @@
+#include "cards/Kaarten.h"
+
+#include "platform/Files.h"
+#include "platform/Paths.h"
+#include "services/Bas_Aftavrin.h"
+
+namespace Kaarten {
+
+std::string bestand(const Gedeeld& gedeeld, const std::string& achtervoegsel) {
+    return join_path(gedeeld.spelMap, gedeeld.spelNaam + achtervoegsel);
+}
+
+std::string eerste_regel(const std::string& pad) {
+    LineReader reader(pad);
+    return reader.line();
+}
+
+void ZetVariabelenOpNul(Gedeeld& gedeeld) {
+    gedeeld.kaartTeller = 0;
+    gedeeld.kaartenInSlag = 0;
+    gedeeld.slagRij = 0;
+    gedeeld.aanDeBeurt = 0;
+    gedeeld.dummyWind.clear();
+    gedeeld.leiderWind.clear();
+}
+
+void LeesInformatie(Scherm& scherm, forms::ListBox& lstInformatie) {
+    scherm.Foutpad("Kaarten - General - LeesInformatie", [&] {
+        lstInformatie.Clear();
+        const std::string pad = bestand(scherm.gedeeld, " informatie.txt");
+        if (Bas_Aftavrin::BestandStatus(pad) != 1) return;
+        for (std::string& record : read_records(pad, kRecordLengte, kAantalRecords)) {
+            lstInformatie.AddItem(std::move(record));
+        }
+    });
+}
+
+void LeesKartenBestandIn(Scherm& scherm, HandLijsten& lijsten) {
+    scherm.Foutpad("Kaarten - General - LeesKartenBestandIn", [&] {
+        lijsten.lstAfTavrin.Clear();
+        const std::string pad = bestand(scherm.gedeeld, " aftavrin.txt");
+        if (Bas_Aftavrin::BestandStatus(pad) != 1) return;
+        std::string& regel = scherm.gedeeld.regel;
+        for (LineReader reader(pad); !reader.at_end();) {
+            regel = reader.line();
+            if (!trimmed(regel).empty()) lijsten.lstAfTavrin.AddItem(regel);
+        }
+    });
+}
+
+void VerdeelDeKaarten(Scherm& scherm, HandLijsten& lijsten) {
+    scherm.Foutpad("Kaarten - General - VerdeelDeKaarten", [&] {
+        for (int plaats = 1; plaats <= 4; ++plaats) lijsten.lstHand(plaats).Clear();
+        Pieces& delen = scherm.gedeeld.delen;
+        for (int rij = 0; rij < lijsten.lstAfTavrin.ListCount(); ++rij) {
+            delen = split(lijsten.lstAfTavrin.List(rij), "|");
+            for (int i = 1; i <= delen.last(); ++i) lijsten.lstHand(i).AddItem(delen[i]);
+        }
+        for (int plaats = 1; plaats <= 4; ++plaats) {
+            forms::ListBox& hand = lijsten.lstHand(plaats);
+            for (int i = 0; i < hand.ListCount(); ++i) {
+                const int nummer = numeric_value(hand.List(i)) - kaart::kCodeBasis;
+                lijsten.suit(kaart::kleur_van(nummer), plaats).AddItem(hand.List(i));
+            }
+        }
+    });
+}
+
+void LeesSpellen(Scherm& scherm, forms::ListBox& lstSpellen, forms::DirListBox& mappen, const std::string& map,
+                 int volgorde) {
+    scherm.Foutpad("Kaarten - General - LeesSpellen", [&] { vul_met_mappen(lstSpellen, mappen, map, volgorde); });
+}
+
+void vul_met_mappen(forms::ListBox& lijst, forms::DirListBox& mappen, const std::string& map, int volgorde) {
+    mappen.Path = map;
+    lijst.Clear();
+    const int aantal = mappen.ListCount();
+    for (int i = 0; i < aantal; ++i) lijst.AddItem(last_part(mappen.List(volgorde == 1 ? aantal - 1 - i : i)));
+}
+
+void WelkeKaartIsDit(Scherm& scherm, const std::string& kaartcode) {
+    scherm.Foutpad("Kaarten - General - WelkeKaartIsDit", [&] {
+        Gedeeld& gedeeld = scherm.gedeeld;
+        const int nummer = numeric_value(kaartcode) - kaart::kCodeBasis;
+        gedeeld.kleurLetter = lower_case(scherm.LeesResString(kaart::gegevens(kaart::kleur_van(nummer)).letter));
+        gedeeld.waardeLetter = waarde_letter(scherm, nummer);
+        gedeeld.kaartTekst = gedeeld.kleurLetter + " " + gedeeld.waardeLetter;
+    });
+}
+
+std::string waarde_letter(const Scherm& scherm, int kaartnummer) {
+    const int blok = static_cast<int>(kaart::kleur_van(kaartnummer));
+    const int rang = kaartnummer - blok * kaart::kKaartenPerKleur + 1;
+    return rang >= 10 && rang <= 14 ? scherm.LeesResString(kaart::bericht_van_rang(rang)) : std::to_string(rang);
+}
+
+}  // namespace Kaarten

@@ -1,0 +1,26 @@
+#include "desktop/CardPreparer.h"
+
+#include <QGuiApplication>
+
+#include "desktop/QtHost.h"
+
+namespace desktop {
+
+namespace {
+// The large faces and, behind them, the back.
+constexpr int kFirst = 2201;
+constexpr int kLast = 2253;
+constexpr int kMilliseconds = 15;  // between two of them
+}  // namespace
+
+CardPreparer::CardPreparer(QtHost& host) : host_(host), next_(kLast) {
+    connect(this, &QTimer::timeout, this, [this] { prepare_next(); });
+    start(kMilliseconds);
+}
+
+void CardPreparer::prepare_next() {
+    host_.pictures().pixmap({next_, {}}, host_.scale().zoom(), qGuiApp->devicePixelRatio());
+    if (--next_ < kFirst) stop();
+}
+
+}  // namespace desktop

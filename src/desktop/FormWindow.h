@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <set>
+#include <unordered_map>
+
+#include "desktop/Look.h"
+#include "forms/Form.h"
+
+class QKeyEvent;
+
+namespace forms {
+class Timer;
+}
+
+namespace desktop {
+
+class QtHost;
+class Ticker;
+class View;
+
+// The window of one form. A control gets its widget when it is first seen by the user; what is never seen costs
+// nothing.
+class FormWindow final : public QWidget {
+public:
+    FormWindow(QtHost& host, forms::Form& form);
+    ~FormWindow() override;
+
+    QtHost& host() const { return host_; }
+    forms::Form& form() const { return form_; }
+
+    // Brings the window up to the form.
+    void flush();
+    // The form is about to be destroyed: the window never looks at it again and takes no more events.
+    void retire();
+    bool retired() const { return retired_; }
+
+    // Runs what the user did as an event of the core, unless the core takes none now.
+    void act(const std::function<void()>& event);
+    // Tells the form of the key; true if its widget shall not see it any more.
+    bool key_event(const QWidget& receiver, const QKeyEvent& event);
+
+    // The view of a control; null as long as it has none.
+    View* view(const forms::Control& control) const;
+
+protected:
+    bool event(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+
+private:
+    // Whether a control got its widget just now, in front of the others of its container.
+    enum class Shown { Before, New };
+    Shown show_control(forms::Control& control);
+    void show_controls(const forms::Container& container);
+    void show_form();
+    void show_pointer();
+    void show_place();
+    void show_timer(forms::Timer& timer);
+    void restack(const forms::Container& container);
+    void order_tab_stops();
+    void give_focus();
+    QWidget* surface(const forms::Container& container);
+
+    QtHost& host_;
+    forms::Form& form_;
+    std::unordered_map<const forms::Control*, std::unique_ptr<View>> views_;
+    std::unordered_map<const forms::Timer*, std::unique_ptr<Ticker>> tickers_;
+    std::set<int> keys_down_;
+    QRect shown_place_;
+    forms::MousePointer shown_pointer_ = forms::MousePointer::Default;
+    forms::WindowState shown_state_ = forms::WindowState::Normal;
+    bool built_ = false;
+    bool tab_stops_changed_ = false;
+    bool retired_ = false;
+};
+
+}  // namespace desktop

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "desktop/View.h"
+#include "forms/Label.h"
+
+namespace desktop {
+
+class LabelWidget;
+
+class LabelView final : public View {
+public:
+    LabelView(FormWindow& window, forms::Label& label, QWidget* parent);
+
+private:
+    void show_state() override;
+
+    forms::Label& label_;
+    LabelWidget& widget_;
+};
+
+// The lines in which a label shows its text: it breaks at blanks where the label is wider than high for it, that is,
+// where there is room for a second line. Widths are twips.
+std::vector<std::string> label_lines(const forms::Label& label);
+
+}  // namespace desktop

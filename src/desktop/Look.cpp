@@ -1,0 +1,68 @@
+#include "desktop/Look.h"
+
+#include <QFontDatabase>
+#include <QFontMetricsF>
+#include <cmath>
+
+#include "desktop/Text.h"
+#include "forms/Geometry.h"
+#include "forms/TextMeasure.h"
+
+namespace desktop {
+
+namespace {
+
+constexpr double kPixelsPerPoint = 96.0 / 72.0;
+
+const QString& family() {
+    static const QString name =
+        QFontDatabase::hasFamily(QStringLiteral("Verdana")) ? QStringLiteral("Verdana") : QStringLiteral("DejaVu Sans");
+    return name;
+}
+
+}  // namespace
+
+int Scale::pixels(double twips) const { return static_cast<int>(std::lround(twips / forms::kTwipsPerPixel * zoom_)); }
+double Scale::twips(int pixels) const { return pixels * forms::kTwipsPerPixel / zoom_; }
+
+QRect Scale::rect(const forms::Control& control) const {
+    return {pixels(control.Left), pixels(control.Top), pixels(control.Width), pixels(control.Height)};
+}
+
+QColor colour(Colour colour) { return {colour.red(), colour.green(), colour.blue()}; }
+
+QFont screen_font(double points, bool bold, double zoom) {
+    QFont font(family());
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(points * kPixelsPerPoint * zoom))));
+    font.setBold(bold);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+QFont screen_font(const forms::Control& control, double zoom) {
+    return screen_font(control.FontSize, control.FontBold, zoom);
+}
+
+double core_width(std::string_view line, const forms::Control& control, double zoom) {
+    const forms::Font font{control.FontSize, control.FontBold};
+    return forms::text_width_in_pixels(without_mark(line), font) * zoom;
+}
+
+QFont fitted_to(const QFont& font, const QString& line, double width) {
+    if (line.isEmpty()) return font;
+    QFont fitted = font;
+    const double spare = width - QFontMetricsF(font).horizontalAdvance(line);
+    fitted.setLetterSpacing(QFont::AbsoluteSpacing, spare / static_cast<double>(line.size()));
+    return fitted;
+}
+
+std::string without_mark(std::string_view line) {
+    std::string result;
+    for (std::size_t at = 0; at < line.size(); ++at) {
+        if (line[at] == '&' && at + 1 < line.size()) ++at;
+        result += line[at];
+    }
+    return result;
+}
+
+}  // namespace desktop

@@ -1,0 +1,102 @@
+#include "desktop/PictureCache.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <cmath>
+#include <exception>
+
+#include "desktop/Look.h"
+#include "resources/PictureTable.h"
+
+namespace desktop {
+
+namespace {
+
+QPointF point(resources::Point point) { return {point.x, point.y}; }
+
+QPainterPath painter_path(const resources::Shape& shape) {
+    using Verb = resources::Path::Verb;
+    QPainterPath path;
+    path.setFillRule(shape.rule == resources::FillRule::EvenOdd ? Qt::OddEvenFill : Qt::WindingFill);
+    auto next = shape.path.points().begin();
+    for (const Verb verb : shape.path.verbs()) {
+        switch (verb) {
+            case Verb::Move:
+                path.moveTo(point(*next++));
+                break;
+            case Verb::Line:
+                path.lineTo(point(*next++));
+                break;
+            case Verb::Cubic:
+                path.cubicTo(point(next[0]), point(next[1]), point(next[2]));
+                next += 3;
+                break;
+            case Verb::Close:
+                path.closeSubpath();
+                break;
+        }
+    }
+    return path;
+}
+
+void paint(QPainter& painter, const resources::Drawing& drawing) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (const resources::Shape& shape : drawing.shapes) {
+        painter.setBrush(shape.fill ? QBrush(colour(*shape.fill)) : QBrush(Qt::NoBrush));
+        if (shape.stroke) {
+            painter.setPen(
+                QPen(colour(shape.stroke->colour), shape.stroke->width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        } else {
+            painter.setPen(Qt::NoPen);
+        }
+        painter.drawPath(painter_path(shape));
+    }
+}
+
+}  // namespace
+
+// Null for a picture that does not exist: what is shown is then nothing, as the failure was reported where the
+// picture was asked for.
+const resources::Drawing* PictureCache::drawing_of(const forms::Picture& picture) {
+    if (picture.empty()) return nullptr;
+    const std::pair key{picture.number, picture.name};
+    if (const auto found = drawings_.find(key); found != drawings_.end()) return &found->second;
+    try {
+        resources::Drawing made =
+            picture.number > 0 ? resources::draw_picture(picture.number) : resources::draw_named_picture(picture.name);
+        return &drawings_.emplace(key, std::move(made)).first->second;
+    } catch (const std::exception&) {
+        return nullptr;
+    }
+}
+
+QSizeF PictureCache::size_of(const forms::Picture& picture) {
+    const resources::Drawing* drawing = drawing_of(picture);
+    return drawing ? QSizeF(drawing->width, drawing->height) : QSizeF();
+}
+
+QPixmap PictureCache::pixmap(const forms::Picture& picture, double scale, double pixel_ratio) {
+    const QSizeF size = size_of(picture) * scale * pixel_ratio;
+    if (size.isEmpty()) return {};
+    const Key key{picture.number, picture.name, static_cast<int>(std::lround(size.width())),
+                  static_cast<int>(std::lround(size.height()))};
+    const auto found = pixmaps_.find(key);
+    if (found != pixmaps_.end()) return found->second;
+    return pixmaps_[key] = render(*drawing_of(picture), scale, pixel_ratio);
+}
+
+QPixmap PictureCache::render(const resources::Drawing& drawing, double scale, double pixel_ratio) {
+    const double factor = scale * pixel_ratio;
+    QPixmap pixmap(std::max(1, static_cast<int>(std::lround(drawing.width * factor))),
+                   std::max(1, static_cast<int>(std::lround(drawing.height * factor))));
+    pixmap.fill(Qt::transparent);
+    {
+        QPainter painter(&pixmap);
+        painter.scale(pixmap.width() / drawing.width, pixmap.height() / drawing.height);
+        paint(painter, drawing);
+    }
+    pixmap.setDevicePixelRatio(pixel_ratio);
+    return pixmap;
+}
+
+}  // namespace desktop

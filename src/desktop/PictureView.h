@@ -1,0 +1,26 @@
+#pragma once
+
+#include <functional>
+
+#include "desktop/View.h"
+#include "forms/Image.h"
+#include "forms/PictureBox.h"
+
+namespace desktop {
+
+class PictureWidget;
+
+// A picture box or an image: they differ in what lies behind and around the picture.
+class PictureView final : public View {
+public:
+    PictureView(FormWindow& window, forms::PictureBox& box, QWidget* parent);
+    PictureView(FormWindow& window, forms::Image& image, QWidget* parent);
+
+private:
+    void show_state() override;
+
+    PictureWidget& widget_;
+    std::function<void()> show_;
+};
+
+}  // namespace desktop

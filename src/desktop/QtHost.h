@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QPoint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <unordered_map>
+
+#include "desktop/Look.h"
+#include "desktop/PictureCache.h"
+#include "forms/Windows.h"
+
+namespace desktop {
+
+class FormWindow;
+
+// Carries the forms in real windows. Needs a QApplication; is destroyed before it.
+class QtHost final : public forms::Host {
+public:
+    // Without a zoom of its own: 1, or as much less as the table needs to fit the screen.
+    explicit QtHost(std::optional<double> zoom = {});
+    ~QtHost() override;
+
+    // Whose windows it carries; without it, those of the first dispatch that ends.
+    void attach(forms::Windows& windows) { windows_ = &windows; }
+
+    forms::Size screen_size() const override;
+    void dispatch_ended(forms::Windows& windows) override;
+    void repaint(forms::Form& form) override;
+    void closing(forms::Form& form) override;
+    void process_events(forms::Windows& windows) override;
+
+    // What is called when the program has ended; the windows are closed then.
+    std::function<void()> Ended;
+    // What is called with the text of a failure that no routine caught.
+    std::function<void(const std::string& what)> Failed;
+
+    const Scale& scale() const { return scale_; }
+    PictureCache& pictures() { return pictures_; }
+    QPoint screen_corner() const;  // of the part of the screen that windows may use
+
+    // Runs what the user did. Nothing happens while an event is running.
+    void act(const std::function<void()>& event);
+    // Runs it although an event is running: keys that the program itself sends.
+    void act_within_event(const std::function<void()>& event);
+    // The window system made the window the active one.
+    void activated(FormWindow& window);
+
+    // Brings all windows up to their forms.
+    void flush();
+    // The window of a form; null if it has none.
+    FormWindow* window(const forms::Form* form) const;
+    // The window of the active form.
+    FormWindow* front() const;
+    // Closes all windows without asking anybody.
+    void close_all();
+
+private:
+    void raise_active();
+    void close_retired();
+
+    Scale scale_;
+    PictureCache pictures_;
+    forms::Windows* windows_ = nullptr;
+    std::unordered_map<const forms::Form*, FormWindow*> form_windows_;
+    std::vector<FormWindow*> retired_;
+    FormWindow* raised_ = nullptr;
+    QElapsedTimer raised_since_;
+    bool within_event_ = false;
+    mutable int title_height_;  // what the window manager adds above a window
+};
+
+}  // namespace desktop

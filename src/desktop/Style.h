@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace desktop {
+
+// The look of all widgets: the same on every machine, with scroll bars that are two arrows where they are too low for
+// more.
+class Style final : public QProxyStyle {
+public:
+    Style() : QProxyStyle(QStringLiteral("fusion")) {}
+
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                         const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override;
+
+    // The colours of the program, whatever the desktop's own are.
+    static QPalette colours();
+};
+
+}  // namespace desktop

@@ -1,0 +1,74 @@
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QIcon>
+#include <QMessageBox>
+#include <cstdlib>
+#include <exception>
+
+#include "app/Start.h"
+#include "desktop/CardPreparer.h"
+#include "desktop/PictureCache.h"
+#include "desktop/QtHost.h"
+#include "desktop/QtPlatform.h"
+#include "desktop/Style.h"
+#include "desktop/Text.h"
+#include "resources/Icon.h"
+#include "services/Programma.h"
+
+namespace {
+
+QIcon program_icon() {
+    QIcon icon;
+    for (const int size : resources::kIconSizes) {
+        icon.addPixmap(desktop::PictureCache::render(resources::draw_icon(size), 1, 1));
+    }
+    return icon;
+}
+
+// The folder given, or none.
+std::string program_folder(const QApplication& application) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Zandolin Lomert"));
+    parser.addHelpOption();
+    const QCommandLineOption folder(QStringLiteral("program"), QStringLiteral("The folder with the program's data."),
+                                    QStringLiteral("DIR"));
+    parser.addOption(folder);
+    parser.process(application);
+    const QString given = parser.value(folder);
+    return given.isEmpty() ? std::string() : desktop::from_qt(QDir(given).absolutePath());
+}
+
+// A failure that no routine catches ends the program with its plain text.
+void end_by_failure(const std::string& what) {
+    QMessageBox::critical(nullptr, QStringLiteral("Zandolin Lomert"), desktop::to_qt(what));
+    QCoreApplication::exit(EXIT_FAILURE);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setStyle(new desktop::Style);
+    QApplication::setPalette(desktop::Style::colours());
+    QApplication::setApplicationName(QStringLiteral("Zandolin Lomert"));
+    QApplication::setWindowIcon(program_icon());
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    desktop::QtHost host;
+    desktop::QtPlatform platform(host, program_folder(application));
+    Programma programma(platform, host);
+    host.attach(programma.windows);
+    host.Ended = [] { QCoreApplication::quit(); };
+    host.Failed = end_by_failure;
+    try {
+        start(programma);
+    } catch (const std::exception& failure) {
+        end_by_failure(failure.what());
+        return EXIT_FAILURE;
+    }
+    const desktop::CardPreparer preparer(host);
+    const int status = programma.windows.ended() ? EXIT_SUCCESS : QApplication::exec();
+    host.close_all();
+    return status;
+}

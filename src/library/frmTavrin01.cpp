@@ -1,0 +1,245 @@
+#include "library/frmTavrin01.h"
+
+#include "cards/Kaarten.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
+#include "services/Bas_Aftavrin.h"
+
+namespace {
+
+constexpr forms::Size kInner{6945, 5085};
+constexpr Colour kGroen = Colour::rgb(0, 128, 0);
+constexpr Colour kRood = Colour::rgb(255, 0, 0);
+constexpr const char* kInstallatie = "tavrinupdate.exe";
+constexpr const char* kWerkmap = "C:\\";
+
+}  // namespace
+
+frmTavrin01::frmTavrin01(Programma& programma) : Scherm(programma, "frmTavrin01", kInner) {
+    picLogo.Picture = {0, "logo"};
+    picLogo.Opaque = false;
+    imaDeMaker.Picture = {0, "maker"};
+    lblInfo.FontSize = 14.25;
+    lblInfo.FontBold = true;
+    for (forms::Label* opschrift : {&lblInfo, &lblDeMaker, &lblCopyRight})
+        opschrift->Alignment = forms::Alignment::Centre;
+    for (forms::Label* klein : {&lblVersie, &lblCopyRight, &lblRVLX})
+        klein->FontSize = 6.75;
+    lblVersie.AutoSize = true;
+
+    const auto toon = [this](const std::string& knop, const std::string& scherm) {
+        return [=, this] {
+            Foutpad("frmTavrin01 - " + knop + " - Click", [&] { this->programma.schermen.toon(scherm); });
+        };
+    };
+    const auto vervang = [this](const std::string& knop, const std::string& scherm) {
+        return [=, this] { open_in_plaats(knop, scherm); };
+    };
+    cmdNieuwSpel.Click = toon("cmdNieuwSpel", "frmTavrin03");
+    cmdHerbeNoem.Click = vervang("cmdHerbeNoem", "frmTavrin04");
+    cmdKaartenEditor.Click = vervang("cmdKaartenEditor", "frmTavrin05");
+    cmdImportExport.Click = vervang("cmdImportExport", "frmTavrin07");
+    cmdTavrin.Click = [this] {
+        Foutpad("frmTavrin01 - cmdTavrin - Click", [&] {
+            this->programma.schermen.toon("frmTavrin02");
+            Form_QueryUnload();
+        });
+    };
+    cmdAfsluiten.Click = [] { beeindig_programma(); };
+    cmdDownLoaden.Click = [this] { cmdDownLoaden_Click(); };
+    cmdWissen.Click = [this] { cmdWissen_Click(); };
+    chkSorteer.Click = [this] { chkSorteer_Click(); };
+    lstSpellen.Click = [this] { lstSpellen_Click(); };
+}
+
+void frmTavrin01::Form_Load() {
+    Foutpad("frmTavrin01 - Form - Load", [&] {
+        gedeeld.taalPrefix = 10;
+        if (programma.platform.another_instance_runs()) beeindig_programma();
+        const std::string help = programma.pad("help.chm");
+        if (Bas_Aftavrin::BestandStatus(help) == 1) {
+            windows().Help = [&platform = programma.platform, help] { platform.show_help(help); };
+        }
+        gedeeld.kaartRugId = 2253;
+        zet_opschriften();
+        zet_buiten_beeld(cmdFocus);
+        centreer();
+        cmdHerbeNoem.Enabled = false;
+        std::string map = programma.pakketten();
+        Bas_Aftavrin::MaakPad(map);
+        test_verbinding();
+    });
+}
+
+void frmTavrin01::zet_opschriften() {
+    Caption = LeesResString(10001) + " " + LeesResString(10002);
+    lblInfo.Caption = Caption();
+    lblCopyRight.Caption = LeesResString(3);
+    fraSpellen.Caption = LeesResString(4);
+    cmdWissen.Caption = "&" + LeesResString(5);
+    cmdTavrin.Caption = "&" + LeesResString(6);
+    cmdAfsluiten.Caption = "&" + LeesResString(7);
+    cmdDownLoaden.Caption = "&" + LeesResString(8);
+    chkSorteer.Caption = LeesResString(9);
+    cmdNieuwSpel.Caption = "&" + LeesResString(11);
+    cmdHerbeNoem.Caption = "&" + LeesResString(53);
+    cmdKaartenEditor.Caption = "&" + LeesResString(57);
+    cmdImportExport.Caption = "&" + LeesResString(75);
+    lblVersie.Caption = LeesResString(12) + " (" + std::to_string(ZANDOLIN_MAJOR) + "." +
+                        std::to_string(ZANDOLIN_MINOR) + "." + std::to_string(ZANDOLIN_REVISION) + ") ";
+    lblDeMaker.Caption = LeesResString(10051);
+    lblRVLX.Caption = "";
+}
+
+// Fetches a small file from the maker's server, which is never read: it tells whether the server answers.
+void frmTavrin01::test_verbinding() {
+    gedeeld.internetOk = false;
+    try {
+        gedeeld.internetOk =
+            Bas_Aftavrin::Internetverbinding(programma) &&
+            programma.platform.download("http://" + Bas_Aftavrin::Server(programma) + "/tavrin/actueleversie.txt",
+                                        programma.pad("actueleversie.txt"));
+    } catch (const std::exception&) {  // No answer is an answer.
+    }
+    cmdDownLoaden.Enabled = gedeeld.internetOk;
+}
+
+void frmTavrin01::Form_Activate() {
+    Foutpad("frmTavrin01 - Form - Activate", [&] {
+        cmdFocus.SetFocus();
+        BestaatRVLX();
+        const bool gevonden = !trimmed(RVLXPad).empty();
+        cmdNieuwSpel.Enabled = gevonden;
+        cmdKaartenEditor.Enabled = gevonden;
+        cmdImportExport.Enabled = true;
+        lblRVLX.Caption = gevonden ? std::string() : LeesResString(102);
+        lblRVLX.ForeColor = gevonden ? kGroen : kRood;
+        // These wait for a line to be chosen.
+        cmdHerbeNoem.Enabled = false;
+        cmdWissen.Enabled = false;
+        cmdTavrin.Enabled = false;
+        Kaarten::ZetVariabelenOpNul(gedeeld);
+        lees_spellen();
+        if (lstSpellen.ListCount() == 0) cmdKaartenEditor.Enabled = false;
+        Bas_Aftavrin::SluitAndereSchermen(programma);
+    });
+}
+
+void frmTavrin01::BestaatRVLX() {
+    Foutpad("frmTavrin01 - General - BestaatRVLX", [&] {
+        RVLXPad = Bas_Aftavrin::ZoekRVLX(programma);
+        cmdFocus.SetFocus();
+    });
+}
+
+void frmTavrin01::lees_spellen() {
+    Kaarten::LeesSpellen(*this, lstSpellen, dirSpellen, programma.pakketten(), chkSorteer.Value);
+}
+
+void frmTavrin01::chkSorteer_Click() {
+    Foutpad("frmTavrin01 - chkSorteer - Click", [&] {
+        cmdHerbeNoem.Enabled = false;
+        cmdWissen.Enabled = false;
+        cmdTavrin.Enabled = false;
+        chkSorteer.Caption = chkSorteer.Caption == LeesResString(10009) ? LeesResString(10010) : LeesResString(10009);
+        lees_spellen();
+        cmdFocus.SetFocus();
+    });
+}
+
+void frmTavrin01::lstSpellen_Click() {
+    Foutpad("frmTavrin01 - lstTavrin - Click", [&] {
+        if (lstSpellen.ListIndex == -1) {
+            cmdFocus.SetFocus();
+            Refresh();
+            return;
+        }
+        gedeeld.spelMap = programma.pakket(lstSpellen.Text());
+        gedeeld.spelMapKopie = gedeeld.spelMap;
+        gedeeld.spelNaam = lstSpellen.Text();
+        cmdTavrin.Enabled = true;
+        cmdWissen.Enabled = !RVLXPad.empty();
+        cmdHerbeNoem.Enabled = !RVLXPad.empty();
+        cmdFocus.SetFocus();
+    });
+}
+
+void frmTavrin01::cmdWissen_Click() {
+    Foutpad("frmTavrin01 - cmdWissen - Click", [&] {
+        cmdWissen.Enabled = false;
+        cmdHerbeNoem.Enabled = false;
+        cmdTavrin.Enabled = false;
+        filFiles.Path = programma.pakket(lstSpellen.Text());
+        const Answer antwoord = programma.platform.message_box(box_style::kQuestion, Caption(),
+                                                               replaced(LeesResString(10056), "~", lstSpellen.Text()));
+        if (antwoord == Answer::Yes) {
+            wis_spel();
+        } else {
+            lstSpellen.ListIndex = -1;
+        }
+        cmdFocus.SetFocus();
+    });
+}
+
+void frmTavrin01::wis_spel() {
+    for (int i = 0; i < filFiles.ListCount(); ++i)
+        delete_file(join_path(filFiles.Path(), filFiles.List(i)));
+    remove_folder(filFiles.Path());
+    lees_spellen();
+}
+
+// Fetches the installer of the newest version, starts it, and ends the program so that its files can be replaced.
+void frmTavrin01::cmdDownLoaden_Click() {
+    Foutpad("frmTavrin01 - cmdDownLoaden - Click", [&] {
+        std::string map = programma.pad("Update");
+        Bas_Aftavrin::MaakPad(map);
+        const std::string installatie = path_text(find_case_blind(join_path(programma.pad("update"), kInstallatie)));
+        // A leftover of length 0 stays: the download overwrites it.
+        if (Bas_Aftavrin::BestandStatus(installatie) == 1) delete_file(installatie);
+        if (!haal_installatie(installatie)) {
+            meld_geen_update();
+            Visible = true;
+            cmdFocus.SetFocus();
+            return;
+        }
+        Visible = true;
+        programma.platform.message_box(box_style::kInformation, Caption(), LeesResString(10066));
+        // One argument as a whole, its name included.
+        programma.platform.open(installatie, "\"/p=" + programma.platform.program_folder() + "\"", kWerkmap);
+        beeindig_programma();
+    });
+}
+
+bool frmTavrin01::haal_installatie(const std::string& bestand) {
+    MousePointer = forms::MousePointer::Hourglass;
+    Refresh();
+    const bool gelukt =
+        programma.platform.download("http://" + Bas_Aftavrin::Server(programma) + "/tavrin/" + kInstallatie, bestand);
+    MousePointer = forms::MousePointer::Default;
+    return gelukt;
+}
+
+void frmTavrin01::meld_geen_update() {
+    const std::string bericht = replaced(LeesResString(gedeeld.internetOk ? 10105 : 10067), "|", "\n");
+    const int stijl = gedeeld.internetOk ? box_style::kInformationYesNo : box_style::kInformation;
+    if (programma.platform.message_box(stijl, Caption(), bericht) != Answer::Yes) return;
+    programma.platform.open(
+        "https://" + Bas_Aftavrin::Server(programma) + "/download/download-software/zandolin-lomert", "", kWerkmap);
+}
+
+void frmTavrin01::open_in_plaats(const std::string& knop, const std::string& scherm) {
+    Foutpad("frmTavrin01 - " + knop + " - Click", [&] {
+        Hide();
+        programma.schermen.toon(scherm);
+    });
+}
+
+void frmTavrin01::Form_KeyUp(int key_code) {
+    Foutpad("frmTavrin01 - Form - KeyUp", [&] {
+        if (key_code == forms::kKeyEscape) beeindig_programma();
+    });
+}
+
+void frmTavrin01::Form_QueryUnload() {
+    Foutpad("frmTavrin01 - Form - QueryUnload", [&] { Unload(); });
+}

@@ -1,0 +1,219 @@
+#include "library/frmTavrin07.h"
+
+#include "cards/Kaarten.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
+#include "services/Bas_Aftavrin.h"
+#include "services/Drives.h"
+
+namespace {
+
+constexpr forms::Size kInner{10515, 6885};
+constexpr const char* kMerkVanStick = "[usb-drive]";
+constexpr const char* kMapOpStick = "QVT_Spellen";
+
+std::string klik_van(const std::string& control) { return "frmTavrin07 - " + control + " - Click"; }
+
+}  // namespace
+
+frmTavrin07::frmTavrin07(Programma& programma) : Scherm(programma, "frmTavrin07", kInner) {
+    for (const Kant* kant : {&exporteer, &importeer})
+        stel_kant_in(*kant);
+    cmdCheckVoorUSB.Visible = false;
+    cmdCheckVoorUSB.Click = [this] { cmdCheckVoorUSB_Click(); };
+    cmdTerug.Click = [this] { Foutpad(klik_van("cmdTerug"), [&] { Form_QueryUnload(); }); };
+}
+
+void frmTavrin07::stel_kant_in(const Kant& kant) {
+    kant.lijst.MultiSelect = true;
+    kant.knop.Enabled = false;
+    kant.lijst.Click = [this, &kant] { lijst_Click(kant); };
+    kant.selecteer.Click = [this, &kant] { chkSelecteer_Click(kant); };
+    kant.sorteer.Click = [this, &kant] { chkSorteer_Click(kant); };
+    kant.knop.Click = [this, &kant] { knop_Click(kant); };
+}
+
+void frmTavrin07::Form_Load() {
+    Foutpad("frmTavrin07 - Form - Load", [&] {
+        zet_opschriften();
+        zet_buiten_beeld(cmdFocus);
+        std::string map = programma.pakketten();
+        Bas_Aftavrin::MaakPad(map);
+        zoek_stick();
+        LeesExporteer(exporteer);
+        centreer();
+    });
+}
+
+void frmTavrin07::zet_opschriften() {
+    Caption = LeesResString(75);
+    fraExporTeer.Caption = LeesResString(76) + " " + LeesResString(10001) + " " + LeesResString(10002);
+    fraImporteer.Caption = LeesResString(79);
+    for (const Kant* kant : {&exporteer, &importeer}) {
+        kant->sorteer.Caption = LeesResString(10009);
+        kant->selecteer.Caption = LeesResString(86);
+    }
+    lblUSBStick.Caption = LeesResString(77);
+    lblUSBDrive.Caption = LeesResString(78);
+    lblNaar.Caption = LeesResString(80);
+    cmdExporteer.Caption = "&" + LeesResString(84);
+    cmdImporteer.Caption = "&" + LeesResString(85);
+    cmdCheckVoorUSB.Caption = "&" + LeesResString(81);
+    cmdTerug.Caption = "&" + LeesResString(18);
+}
+
+void frmTavrin07::Form_Activate() {
+    Foutpad("frmTavrin07 - Form - Activate", [&] {
+        if (usbDrive.empty()) {
+            meld_geen_stick();
+            cmdCheckVoorUSB.Visible = true;
+        } else {
+            LeesExporteer(importeer);
+        }
+        cmdFocus.SetFocus();
+    });
+}
+
+// Takes the first stick among the drives. Without one the frames keep the line that they showed.
+bool frmTavrin07::zoek_stick() {
+    Bas_Aftavrin::DisplyDriveTypes(programma, lstDriveType, lstDriveNaam, Bas_Aftavrin::GetDriveStrings(programma));
+    usbDrive.clear();
+    for (int i = 0; i < lstDriveNaam.ListCount(); ++i) {
+        const std::string& regel = lstDriveNaam.List(i);
+        if (lower_case(regel).find(kMerkVanStick) == std::string::npos) continue;
+        lblUSBDrive.Caption = regel;
+        usbDrive = regel;
+        fraImporteer.Caption = LeesResString(79) + " " + regel;
+        return true;
+    }
+    return false;
+}
+
+void frmTavrin07::meld_geen_stick() {
+    programma.platform.message_box(box_style::kInformation, Caption(), LeesResString(82));
+}
+
+std::string frmTavrin07::stick_map() const {
+    if (usbDrive.empty()) return {};
+    std::string stick = lstDriveType.List(lstDriveNaam.find(usbDrive, forms::Match::Exact));
+    if (stick.ends_with(kPathSeparator)) stick.pop_back();
+    return join_path(stick, kMapOpStick);
+}
+
+std::string frmTavrin07::map_van(const Kant& kant) const {
+    return &kant == &exporteer ? programma.pakketten() : stick_map();
+}
+
+// Both halves report their failures under this one name.
+void frmTavrin07::LeesExporteer(const Kant& kant) {
+    Foutpad("frmTavrin07 - General - LeesExporteer", [&] {
+        const std::string map = map_van(kant);
+        kant.lijst.Clear();
+        kant.knop.Enabled = false;
+        if (!map.empty()) Kaarten::vul_met_mappen(kant.lijst, kant.mappen, map, kant.sorteer.Value);
+    });
+}
+
+void frmTavrin07::lijst_Click(const Kant& kant) {
+    Foutpad(klik_van(std::string("lst") + kant.naam), [&] {
+        if (kant.lijst.ListIndex == -1) {
+            if (cmdFocus.Visible) cmdFocus.SetFocus();
+            return;
+        }
+        kant.knop.Enabled = false;
+        for (int i = 0; i < kant.lijst.ListCount(); ++i) {
+            if (!kant.lijst.Selected(i)) continue;
+            kant.knop.Enabled = true;
+            break;
+        }
+    });
+}
+
+void frmTavrin07::chkSelecteer_Click(const Kant& kant) {
+    Foutpad(klik_van(kant.plaatsVanSelecteer), [&] {
+        const bool alles = kant.selecteer.Caption == LeesResString(86);
+        kant.selecteer.Caption = LeesResString(alles ? 87 : 86);
+        for (int i = 0; i < kant.lijst.ListCount(); ++i)
+            kant.lijst.SetSelected(i, alles);
+    });
+}
+
+void frmTavrin07::chkSorteer_Click(const Kant& kant) {
+    Foutpad(klik_van(std::string("chkSorteer") + kant.naam), [&] {
+        kant.sorteer.Caption = LeesResString(kant.sorteer.Caption == LeesResString(10009) ? 10010 : 10009);
+        LeesExporteer(kant);
+        // Twice, so that the box's state applies to the new lines.
+        chkSelecteer_Click(kant);
+        chkSelecteer_Click(kant);
+        cmdFocus.SetFocus();
+    });
+}
+
+void frmTavrin07::cmdCheckVoorUSB_Click() {
+    Foutpad(klik_van("cmdCheckVoorUSB"), [&] {
+        cmdCheckVoorUSB.Visible = false;
+        if (zoek_stick()) {
+            LeesExporteer(importeer);
+        } else {
+            meld_geen_stick();
+            cmdCheckVoorUSB.Visible = true;
+        }
+    });
+}
+
+void frmTavrin07::knop_Click(const Kant& kant) {
+    Foutpad(klik_van(std::string("cmd") + kant.naam), [&] {
+        kant.knop.Enabled = false;
+        if (!zoek_stick()) {
+            meld_geen_stick();
+            kant.knop.Enabled = true;
+            cmdFocus.SetFocus();
+            return;
+        }
+        MousePointer = forms::MousePointer::Hourglass;
+        Refresh();
+        const bool inlezen = &kant == &importeer;
+        kopieer_selectie(kant, inlezen ? exporteer : importeer);
+        if (inlezen) LeesExporteer(exporteer);
+        if (kant.selecteer.Value == 1) kant.selecteer.Value = 0;
+        MousePointer = forms::MousePointer::Default;
+    });
+}
+
+void frmTavrin07::kopieer_selectie(const Kant& kant, const Kant& overkant) {
+    const std::string doel = map_van(overkant);
+    std::string pad = doel;
+    Bas_Aftavrin::MaakPad(pad);
+    refuse_link(stick_map());
+    for (int i = 0; i < kant.lijst.ListCount(); ++i) {
+        if (!kant.lijst.Selected(i)) continue;
+        const std::string& spel = kant.lijst.List(i);
+        kopieer_spel(join_path(map_van(kant), spel), join_path(doel, spel));
+        kant.lijst.SetSelected(i, false);
+        Refresh();
+    }
+}
+
+void frmTavrin07::kopieer_spel(const std::string& van, const std::string& naar) {
+    refuse_link(van);
+    std::string pad = naar;
+    Bas_Aftavrin::MaakPad(pad);
+    refuse_link(naar);
+    filFiles.Path = van;
+    for (int i = 0; i < filFiles.ListCount(); ++i) {
+        copy_file(join_path(van, filFiles.List(i)), join_path(naar, filFiles.List(i)));
+    }
+}
+
+void frmTavrin07::Form_KeyUp(int key_code) {
+    Foutpad("frmTavrin07 - Form - KeyUp", [&] {
+        if (key_code == forms::kKeyEscape) Form_QueryUnload();
+    });
+}
+
+void frmTavrin07::Form_QueryUnload() {
+    Foutpad("frmTavrin07 - Form - QueryUnload", [&] {
+        programma.schermen.toon("frmTavrin01");
+        Unload();
+    });
+}

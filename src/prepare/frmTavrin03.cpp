@@ -1,0 +1,204 @@
+#include "prepare/frmTavrin03.h"
+
+#include "cards/Kaarten.h"
+#include "platform/Paths.h"
+#include "prepare/Klik.h"
+#include "services/Bas_Aftavrin.h"
+#include "table/Kaarten.h"
+
+namespace {
+
+constexpr forms::Size kInner{16950, 9585};
+constexpr BiedingPaneel::Kolommen kBiedingKolommen{570, 870};
+
+}  // namespace
+
+frmTavrin03::frmTavrin03(Programma& programma)
+    : Scherm(programma, "frmTavrin03", kInner),
+      KaartLabels(static_cast<forms::Form&>(*this)),
+      BiedingPaneel(static_cast<forms::Form&>(*this), {12780, 150, 4035, 3105}, kBiedingKolommen) {
+    stel_uiterlijk_in();
+    chkSorteerRVLX.Click = [this] { chkSorteerRVLX_Click(); };
+    chkSorteerTavrin.Click = [this] { chkSorteerTavrin_Click(); };
+    lstRVLX.Click = [this] { lstRVLX_Click(); };
+    lstAfTavrin.Click = [this] { lstAfTavrin_Click(); };
+    cmdOpslaan.Click = [this] { cmdOpslaan_Click(); };
+    cmdOphalen.Click = [this] { cmdOphalen_Click(); };
+    msfgTavrin.Click = [this] { msfgTavrin_Click(); };
+    cmdTerug.Click = [this] { Foutpad("frmTavrin03 - cmdTerug - Click", [&] { Form_QueryUnload(); }); };
+    for (const prepare::Klik& klik : prepare::kKlikken) {
+        rij(klik.plaats, klik.kleur).each([this, &klik](forms::Label& label) {
+            label.Click = [this, &klik, index = label.index()] { klik_kaart(klik, index); };
+        });
+    }
+}
+
+void frmTavrin03::stel_uiterlijk_in() {
+    for (int plaats = 1; plaats <= 4; ++plaats) {
+        frame(plaats).Caption = LeesResString(kaart::bericht_van_plaats(plaats));
+        lblBieding(plaats - 1).Caption = LeesResString(kaart::bericht_van_plaats(plaats));
+    }
+    lblInfo(0).Caption = LeesResString(14) + ":";
+    lblInfo(1).Caption = LeesResString(15) + ":";
+    lblSlagenNZ.Caption = LeesResString(16) + ":";
+    lblSlagenOW.Caption = LeesResString(17) + ":";
+    lblSlagenTellerNZ.Caption = "0";
+    lblSlagenTellerOW.Caption = "0";
+    for (forms::Label* opschrift : {&lblLaatste, &lblContract, &lblUitkomstWind, &lblUitkomstKaart}) {
+        opschrift->AutoSize = true;
+    }
+    for (forms::Label* vet : {&lblContract, &lblUitkomstWind, &lblUitkomstKaart, &lblSlagenTellerNZ, &lblSlagenTellerOW}) {
+        vet->FontBold = true;
+    }
+    lblUitkomstKaart.FontSize = 9.75;
+    lblContract.Visible = false;
+    lblUitkomstWind.Visible = false;
+    picUitkomst.Visible = false;
+    picUitkomst.Opaque = false;
+    lblUitkomstKaart.Visible = false;
+    msfgTavrin.FontSize = 9.75;
+    for (forms::TextBox* doos : {&txtVraag, &txtAntwoord, &txtKnipText}) {
+        doos->MultiLine = true;
+        doos->FontSize = 12;
+    }
+    txtKnipText.Visible = false;
+    cmdOphalen.Visible = false;
+    cmdOphalen.Caption = "Ophalen";
+    cmdOpslaan.Enabled = false;
+}
+
+void frmTavrin03::Form_Load() {
+    Foutpad("frmTavrin03 - Form - Load", [&] {
+        Caption = LeesResString(10025);
+        cmdTerug.Caption = "&" + LeesResString(10018);
+        zet_buiten_beeld(cmdFocus);
+        cmdTerug.Move(90, Height - cmdTerug.Height - 90);
+        fraRVLX.Caption = LeesResString(10026);
+        fraTavrin.Caption = LeesResString(10006);
+        chkSorteerRVLX.Caption = LeesResString(10009);
+        chkSorteerTavrin.Caption = LeesResString(10009);
+        cmdOpslaan.Caption = "&" + LeesResString(10048);
+        maak_rijen();
+        MaakLabelSchoon();
+        zet_raster_op();
+        lees_sorteerkeuzen();
+
+        const std::string programmas = Bas_Aftavrin::ZoekRVLX(programma);
+        if (programmas.empty()) return;
+        RVLXMap = join_path(programmas, "RVLX");
+        aftavrinMap = programma.pakketten();
+        LaatRVLXSpellenZien();
+        LeesAftavrinSpellen();
+        const std::string laatste =
+            Bas_Aftavrin::LeesIni(programma, "Standaard", "LaatsteRVLX", programma.instellingen());
+        if (!laatste.empty()) lblLaatste.Caption = "Laatst gebruikte " + lower_case(replaced(laatste, " ", ": "));
+    });
+}
+
+void frmTavrin03::zet_raster_op() {
+    msfgTavrin.Row = 0;
+    for (int kolom = 1; kolom < msfgTavrin.Cols(); ++kolom) {
+        msfgTavrin.Col = kolom;
+        msfgTavrin.SetText(LeesResString(kaart::bericht_van_plaats(kolom)));
+        msfgTavrin.SetCellAlignment(forms::FlexGrid::CellAlignment::Centre);
+    }
+    msfgTavrin.Col = 0;
+    for (int rij = 1; rij < msfgTavrin.Rows(); ++rij) {
+        msfgTavrin.Row = rij;
+        msfgTavrin.SetText(std::to_string(rij));
+        msfgTavrin.SetCellAlignment(forms::FlexGrid::CellAlignment::Centre);
+    }
+}
+
+// Setting a box runs its click, before the folders are known.
+void frmTavrin03::lees_sorteerkeuzen() {
+    for (forms::CheckBox* keuze : {&chkSorteerRVLX, &chkSorteerTavrin}) {
+        const std::string waarde =
+            Bas_Aftavrin::LeesIni(programma, "Standaard", keuze->name(), programma.instellingen());
+        keuze->Value = waarde.empty() ? 0 : numeric_value(waarde);
+    }
+}
+
+void frmTavrin03::Form_Activate() {
+    Foutpad("frmTavrin03 - Form - Activate", [&] {
+        cmdFocus.SetFocus();
+        centreer();
+    });
+}
+
+void frmTavrin03::Form_KeyUp(int key_code) {
+    Foutpad("frmTavrin03 - Form - KeyUp", [&] {
+        if (key_code == forms::kKeyEscape) Form_QueryUnload();
+    });
+}
+
+void frmTavrin03::Form_QueryUnload() {
+    Foutpad("frmTavrin03 - Form - QueryUnload", [&] {
+        programma.schermen.toon("frmTavrin01");
+        Unload();
+    });
+}
+
+namespace {
+
+// Fills a list of deals from its folder, in the direction of its box, whose caption names what a next click would do.
+// As long as the folder is not known the list stays empty and nothing is made.
+void toon_mappen(frmTavrin03& scherm, forms::ListBox& lijst, forms::DirListBox& mappen, forms::CheckBox& keuze,
+                 const std::string& map) {
+    keuze.Caption = scherm.LeesResString(keuze.Value == 1 ? 10010 : 10009);
+    if (map.empty()) return;
+    std::string pad = map;
+    Bas_Aftavrin::MaakPad(pad);
+    Kaarten::vul_met_mappen(lijst, mappen, map, keuze.Value);
+}
+
+}  // namespace
+
+void frmTavrin03::LaatRVLXSpellenZien() {
+    Foutpad("frmTavrin03 - General - LaatRVLXSpellenZien", [&] {
+        toon_mappen(*this, lstRVLX, dirRVLX, chkSorteerRVLX, RVLXMap.empty() ? "" : join_path(RVLXMap, "spellen"));
+    });
+}
+
+void frmTavrin03::LeesAftavrinSpellen() {
+    Foutpad("frmTavrin03 - General - LeesAftavrinSpellen",
+            [&] { toon_mappen(*this, lstAfTavrin, dirAftavrin, chkSorteerTavrin, aftavrinMap); });
+}
+
+void frmTavrin03::chkSorteerRVLX_Click() {
+    Foutpad("frmTavrin03 - chkSorteerRVLX - Click", [&] {
+        if (cmdFocus.Visible) cmdFocus.SetFocus();
+        Bas_Aftavrin::SchrijfINI(programma, "Standaard", "chkSorteerRVLX", std::to_string(chkSorteerRVLX.Value),
+                                 programma.instellingen());
+        LaatRVLXSpellenZien();
+    });
+}
+
+void frmTavrin03::chkSorteerTavrin_Click() {
+    Foutpad("frmTavrin03 - chkSorteerTavrin - Click", [&] {
+        if (cmdFocus.Visible) cmdFocus.SetFocus();
+        Bas_Aftavrin::SchrijfINI(programma, "Standaard", "chkSorteerTavrin", std::to_string(chkSorteerTavrin.Value),
+                                 programma.instellingen());
+        LeesAftavrinSpellen();
+    });
+}
+
+void frmTavrin03::lstRVLX_Click() {
+    Foutpad("frmTavrin03 - lstRVLX - Click", [&] {
+        if (lstRVLX.ListIndex == -1) return;
+        lstAfTavrin.Tag = "";
+        txtVraag.Text = "";
+        txtAntwoord.Text = "";
+        txtKnipText.Text = "";
+        lstAfTavrin.ListIndex = -1;
+        lstKnipTekst.Clear();
+        MaakLabelSchoon();
+        Kaarten::ZetVariabelenOpNul(gedeeld);
+        cmdOpslaan.Enabled = false;
+        gedeeld.spelNaam = lstRVLX.Text();
+        gedeeld.spelMap = join_path(join_path(RVLXMap, "spellen"), lstRVLX.Text());
+        LeesRVLXSpelIn();
+        Kaarten::ToonBieding(*this, *this);
+        gedeeld.uitkomstVast = true;
+    });
+}

@@ -1,0 +1,190 @@
+// Reading a deal onto the screen: of the companion, or of a stored package. The two differ in small ways, all meant.
+#include "cards/Kaarten.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
+#include "prepare/Bron.h"
+#include "prepare/frmTavrin03.h"
+#include "services/Bas_Aftavrin.h"
+#include "table/Kaarten.h"
+#include "table/Knip_Tekst.h"
+
+using prepare::Bron;
+using prepare::kHoogste;
+using prepare::kInHand;
+using prepare::kInSlag;
+
+namespace {
+
+std::string lees_tekst(const std::string& pad) {
+    std::string tekst;
+    for (LineReader regels(pad); !regels.at_end();) tekst += regels.line() + "\r\n";
+    return tekst;
+}
+
+std::string zonder_regeleinde_vooraan(const std::string& tekst) {
+    return tekst.starts_with("\r\n") ? tekst.substr(2) : tekst;
+}
+
+std::string met_regeleinden(const forms::ListBox& regels) {
+    std::string tekst;
+    for (int i = 0; i < regels.ListCount(); ++i) tekst += regels.List(i) + "\r\n";
+    return tekst;
+}
+
+}  // namespace
+
+void frmTavrin03::LeesRVLXSpelIn() {
+    Foutpad("frmTavrin03 - General - LeesRVLXSpelIn", [&] {
+        const std::string map = join_path(join_path(RVLXMap, "spellen"), gedeeld.spelNaam);
+        const Bron bron{join_path(map, gedeeld.spelNaam), gedeeld.spelNaam, "\r\n", false, kInSlag};
+        if (!lees_spel(bron)) return;
+        txtVraag.Text = "";
+        txtAntwoord.Text = "";
+        for (const auto& [achtervoegsel, doos] : {std::pair{" vraag.txt", &txtVraag}, {" antwoord.txt", &txtAntwoord}}) {
+            lstKnipTekst.Clear();
+            knip_tot_regels(trimmed(lees_tekst(bron.stam + achtervoegsel)));
+            // Two characters go without a test: a text that doesn't begin with a line break loses two letters.
+            doos->Text = middle(met_regeleinden(lstKnipTekst), 3);
+        }
+        bepaal_troef();
+    });
+}
+
+void frmTavrin03::LeesSpelIn() {
+    Foutpad("frmTavrin03 - General - LeesSpelIn", [&] {
+        const Bron bron{join_path(gedeeld.spelMap, gedeeld.spelNaam), lstAfTavrin.Text() + " ", "\n", true,
+                        prepare::kUitkomstVanPakket};
+        if (!lees_spel(bron)) return;
+        txtVraag.Text = lees_tekst(bron.stam + " vraag.txt");
+        txtAntwoord.Text = lees_tekst(bron.stam + " antwoord.txt");
+        bepaal_troef();
+        // The list is not cleared between the two: the answer's box gets the question's lines too.
+        for (forms::TextBox* doos : {&txtVraag, &txtAntwoord}) {
+            knip_tot_regels(doos->Text());
+            doos->Text = met_regeleinden(lstKnipTekst);
+        }
+        for (forms::TextBox* doos : {&txtVraag, &txtAntwoord}) doos->Text = zonder_regeleinde_vooraan(doos->Text());
+        Kaarten::ToonBieding(*this, *this);
+    });
+}
+
+void frmTavrin03::knip_tot_regels(const std::string& tekst) {
+    txtKnipText.Text = "";
+    txtKnipText.Text = tekst;
+    Knip_Tekst(txtKnipText, lstKnipTekst);
+}
+
+// What both readers do alike. False if the deal was refused.
+bool frmTavrin03::lees_spel(const Bron& bron) {
+    maak_scherm_leeg();
+    if (Bas_Aftavrin::BestandStatus(bron.stam + " Contract.txt") != 1) {
+        programma.platform.message_box(box_style::kInformation, Caption(),
+                                       bron.geweigerd + replaced(LeesResString(10033), "|", bron.regeleinde));
+        return false;
+    }
+    gedeeld.regel = Kaarten::eerste_regel(bron.stam + " Contract.txt");
+    lblContract.Caption = gedeeld.regel;
+    lblContract.Visible = true;
+    lees_uitkomst(bron);
+    const int kolom = zet_uitkomst_in_raster();
+    if (bron.legt_uitkomst_vast) gedeeld.uitkomstVast = true;
+    lees_handen(bron);
+    kleur_uitkomst(kolom, bron);
+    return true;
+}
+
+void frmTavrin03::maak_scherm_leeg() {
+    elk_label([](forms::Label& label) {
+        label.Visible = false;
+        label.Caption = "";
+        label.BackColor = kInHand;
+        label.Enabled = true;
+    });
+    for (int plaats = 1; plaats <= 4; ++plaats) frame(plaats).BackColor = kInHand;
+    msfgTavrin.Redraw = false;
+    for (int r = 1; r < msfgTavrin.Rows(); ++r) {
+        msfgTavrin.Row = r;
+        for (int kolom = 1; kolom < msfgTavrin.Cols(); ++kolom) {
+            msfgTavrin.Col = kolom;
+            msfgTavrin.SetText("");
+            msfgTavrin.SetCellAlignment(forms::FlexGrid::CellAlignment::Centre);
+            msfgTavrin.SetCellBackColor(kInHand);
+        }
+    }
+    msfgTavrin.Redraw = true;
+}
+
+void frmTavrin03::lees_uitkomst(const Bron& bron) {
+    gedeeld.regel = Kaarten::eerste_regel(bron.stam + " Uitkomst.txt");
+    gedeeld.delen = split(gedeeld.regel, "-");
+    const std::string wind = trimmed(gedeeld.delen[0]);
+    const std::string kaart = trimmed(gedeeld.delen[1]);
+    picUitkomst.Picture = forms::Picture{};
+    if (!kaart.empty() && kaart[0] >= '0' && kaart[0] <= '3') {
+        const auto kleur = static_cast<std::size_t>(kaart[0] - '0');
+        picUitkomst.Picture = pic[0][kleur].Picture();
+        GevraagdeKleur = LeesResString(kaart::gegevens(kaart::kKleuren[kleur]).letter) + " ";
+    }
+    lblUitkomstWind.Caption = wind + " - ";
+    picUitkomst.Left = lblUitkomstWind.right() + 32;
+    lblUitkomstKaart.Caption = middle(kaart, 2);
+    lblUitkomstKaart.Left = picUitkomst.right() + 48;
+    lblUitkomstWind.Visible = true;
+    picUitkomst.Visible = true;
+    lblUitkomstKaart.Visible = true;
+}
+
+// Writes the lead into row 1. The column of the leader; 0 for a seat word that stands above no column.
+int frmTavrin03::zet_uitkomst_in_raster() {
+    const std::string& wind = lblUitkomstWind.Caption();
+    msfgTavrin.Row = 0;
+    for (int kolom = 1; kolom < msfgTavrin.Cols(); ++kolom) {
+        msfgTavrin.Col = kolom;
+        if (msfgTavrin.Text() != left(wind, wind.size() - 3)) continue;
+        msfgTavrin.Row = 1;
+        msfgTavrin.SetText(GevraagdeKleur + left(lblUitkomstKaart.Caption(), 1));
+        msfgTavrin.SetCellAlignment(forms::FlexGrid::CellAlignment::Centre);
+        msfgTavrin.SetCellBackColor(kInSlag);
+        return kolom;
+    }
+    return 0;
+}
+
+void frmTavrin03::lees_handen(const Bron& bron) {
+    LineReader regels(bron.stam + " handen.txt");
+    for (int plaats = 1; plaats <= 4; ++plaats) {
+        for (const kaart::Kleur kleur : kaart::kKleuren) {
+            const std::string kaarten = regels.line();
+            for (std::size_t i = 0; i < kaarten.size(); ++i) {
+                forms::Label& label = rij(plaats, kleur)(static_cast<int>(i));
+                label.Caption = std::string(1, kaarten[i]);
+                label.AccessibleName = kaart::titel(kaart::code_van(waarde_van(label.Caption()), kleur));
+                label.Visible = true;
+            }
+        }
+    }
+}
+
+void frmTavrin03::kleur_uitkomst(int kolom, const Bron& bron) {
+    if (kolom != 0) lstKlaar.Tag = LeesResString(kaart::letter_van_plaats(kaart::volgende_plaats(kolom)));
+    const auto kleur = kleur_van_letter(trimmed(GevraagdeKleur));
+    const bool bekend = !(picUitkomst.Picture == forms::Picture{});
+    if (kolom == 0 || !kleur || !bekend) throw Fout(FoutNummer::InvalidCall, gedeeld.regel);
+    for (int i = 0; i <= kHoogste; ++i) {
+        forms::Label& label = rij(kolom, *kleur)(i);
+        if (!(label.Caption == left(lblUitkomstKaart.Caption(), 1))) continue;
+        label.BackColor = bron.kleur_uitkomst;
+        return;
+    }
+}
+
+// A later word found overwrites an earlier one.
+void frmTavrin03::bepaal_troef() {
+    TroefNummer = 0;
+    TroefKleur.clear();
+    for (const kaart::Kleur kleur : kaart::kKleuren) {
+        if (lblContract.Caption().find(LeesResString(kaart::gegevens(kleur).woord)) == std::string::npos) continue;
+        TroefNummer = 4 - static_cast<int>(kleur);
+        TroefKleur = LeesResString(kaart::gegevens(kleur).letter);
+    }
+}

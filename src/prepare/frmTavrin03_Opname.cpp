@@ -1,0 +1,228 @@
+// Recording the play: clicks on cards, following suit, tricks and their winners.
+#include "prepare/Klik.h"
+#include "prepare/frmTavrin03.h"
+
+using prepare::kGespeeld;
+using prepare::kHoogste;
+using prepare::kInHand;
+using prepare::kInSlag;
+
+void frmTavrin03::klik_kaart(const prepare::Klik& klik, int index) {
+    Foutpad(std::string("frmTavrin03 - ") + klik.naam + " - Click", [&] {
+        forms::Label& label = rij(klik.plaats, klik.kleur)(index);
+        if (label.BackColor == kGespeeld) return;
+        const bool in_slag = label.BackColor == kInSlag;
+        if (gedeeld.uitkomstVast && (in_slag || klik.eerst_vast)) {
+            programma.platform.message_box(box_style::kInformation, LeesResString(10001), LeesResString(10106));
+            return;
+        }
+        if (in_slag) {
+            neem_terug(klik, label);
+            return;
+        }
+        std::string wie = LeesResString(kaart::letter_van_plaats(klik.plaats));
+        if (!(lstKlaar.Tag == wie)) {
+            AanDeBeurt(wie);
+            cmdFocus.SetFocus();
+            return;
+        }
+        gedeeld.uitkomstVast = false;
+        const std::string letter = LeesResString(kaart::gegevens(klik.kleur).letter);
+        if (GevraagdeKleur.empty()) GevraagdeKleur = letter;
+        const std::optional<kaart::Kleur> kleur = te_bekennen(klik);
+        MoetBekennen = kleur.has_value();
+        if (MoetBekennen) {
+            const std::string woord = LeesResString(kaart::gegevens(*kleur).woord);
+            programma.platform.message_box(box_style::kInformation, Caption(), replaced(LeesResString(10031), "~", woord));
+            cmdFocus.SetFocus();
+            return;
+        }
+        if (klik.even_blauw) label.BackColor = prepare::kEvenBlauw;
+        int speler = klik.plaats;
+        VolgendeKaart(speler, letter + " " + label.Caption(), index);
+    });
+}
+
+// Whichever card of the trick is taken back, the next one clicked counts as the lead.
+void frmTavrin03::neem_terug(const prepare::Klik& klik, forms::Label& label) {
+    label.BackColor = kInHand;
+    lstKlaar.Tag = LeesResString(klik.terug_letter);
+    msfgTavrin.Col = klik.terug_kolom;
+    msfgTavrin.SetText("");
+    GevraagdeKleur.clear();
+}
+
+// The suit that the seat must follow and can, if the clicked card does not.
+std::optional<kaart::Kleur> frmTavrin03::te_bekennen(const prepare::Klik& klik) {
+    const std::string gevraagd = trimmed(GevraagdeKleur);
+    if (gevraagd == LeesResString(kaart::gegevens(klik.kleur).letter)) return std::nullopt;
+    for (const kaart::Kleur kleur : kaart::kKleuren) {
+        const std::string letter =
+            kleur == kaart::Kleur::Klaveren ? klik.klaver : LeesResString(kaart::gegevens(kleur).letter);
+        if (kleur == klik.kleur || gevraagd != letter) continue;
+        for (int i = 0; i <= kHoogste; ++i) {
+            const forms::Label& label = rij(klik.plaats, kleur)(i);
+            if (label.Visible && label.Enabled && label.BackColor == kInHand) return kleur;
+        }
+    }
+    return std::nullopt;
+}
+
+void frmTavrin03::AanDeBeurt(std::string& wie) {
+    Foutpad("frmTavrin03 - General - AanDeBeurt", [&] {
+        for (int plaats = 1; plaats <= 4; ++plaats) {
+            if (lstKlaar.Tag == LeesResString(kaart::letter_van_plaats(plaats))) {
+                wie = LeesResString(kaart::bericht_van_plaats(plaats));
+                break;
+            }
+        }
+        programma.platform.message_box(box_style::kInformation, Caption(),
+                                       replaced(replaced(LeesResString(10032), "~", wie), "|", "\n"));
+    });
+}
+
+void frmTavrin03::VolgendeKaart(int& speler, const std::string& kaart, int index) {
+    Foutpad("frmTavrin03 - General - VolgendeKaart", [&] {
+        int slagrij = msfgTavrin.Row;
+        if (HerberekenSlag) {
+            msfgTavrin.SetText(kaart);
+        } else {
+            msfgTavrin.Col = speler;
+            for (slagrij = 1; slagrij < msfgTavrin.Rows(); ++slagrij) {
+                if (!msfgTavrin.cell(slagrij, speler).text.empty()) continue;
+                msfgTavrin.Row = slagrij;
+                msfgTavrin.SetText(kaart);
+                break;
+            }
+            if (LeesModus) slagrij = msfgTavrin.Rows() - 1;
+            const auto kleur = kleur_van_letter(left(kaart, 1));
+            if (kleur && speler >= 1 && speler <= 4) rij(speler, *kleur)(index).BackColor = kInSlag;
+            msfgTavrin.Row = slagrij;
+        }
+        lstKlaar.Clear();
+        bool slag_open = false;
+        for (int kolom = 1; kolom < msfgTavrin.Cols(); ++kolom) {
+            msfgTavrin.Col = kolom;
+            lstKlaar.AddItem(msfgTavrin.Text());
+            slag_open = slag_open || msfgTavrin.Text().empty();
+        }
+        if (!slag_open) {
+            bepaal_winnaar();
+            if (LeesModus) return;
+            sluit_slag(slagrij, speler);
+        }
+        if (speler >= 1 && speler <= 4) {
+            lstKlaar.Tag = LeesResString(kaart::letter_van_plaats(kaart::volgende_plaats(speler)));
+        }
+    });
+}
+
+// Trump first, otherwise the suit led; the highest value wins. Where no card counts, the winner stays as it was.
+void frmTavrin03::bepaal_winnaar() {
+    lstAnderKleur.Clear();
+    bool troef = false;
+    for (int i = 0; i < lstKlaar.ListCount(); ++i) {
+        const bool is_troef = left(lstKlaar.List(i), 1) == TroefKleur;
+        lstAnderKleur.AddItem(is_troef ? lstKlaar.List(i) : " ");
+        troef = troef || is_troef;
+    }
+    const std::string gevraagd = trimmed(GevraagdeKleur);
+    for (int i = 0; i < lstKlaar.ListCount(); ++i) {
+        if (troef) {
+            lstKlaar.SetList(i, lstAnderKleur.List(i));
+        } else if (left(lstKlaar.List(i), 1) != gevraagd) {
+            lstKlaar.SetList(i, "");
+        }
+    }
+    int beste = 0;
+    for (int i = 0; i < lstKlaar.ListCount(); ++i) {
+        const int waarde = waarde_van(lstKlaar.List(i));
+        if (waarde <= beste) continue;
+        beste = waarde;
+        SlagWinnaar = i + 1;
+    }
+}
+
+void frmTavrin03::sluit_slag(int slagrij, int& speler) {
+    elk_label([](forms::Label& label) {
+        if (label.BackColor == kInSlag) label.BackColor = kGespeeld;
+    });
+    msfgTavrin.Col = SlagWinnaar;
+    if (slagrij + 1 < msfgTavrin.Rows()) {
+        msfgTavrin.Row = slagrij + 1;
+        msfgTavrin.SetCellBackColor(kInSlag);
+        speler = SlagWinnaar == 1 ? 4 : SlagWinnaar - 1;
+        GevraagdeKleur.clear();
+        Kaarten::SlagenTeller(*this);
+        return;
+    }
+    // No row follows the last trick, so its winner is counted here.
+    Kaarten::SlagenTeller(*this);
+    tel_slag_voor(SlagWinnaar);
+    programma.platform.message_box(box_style::kInformation, Caption(), LeesResString(10088));
+    cmdOpslaan.Enabled = true;
+}
+
+void frmTavrin03::tel_slag_voor(int kolom) {
+    forms::Label& teller = kolom == 1 || kolom == 3 ? lblSlagenTellerNZ : lblSlagenTellerOW;
+    teller.Caption = std::to_string(numeric_value(teller.Caption()) + 1);
+}
+
+// Value of a card by its last character, 2 to 14; 0 for a text that is none.
+int frmTavrin03::waarde_van(const std::string& kaart) const {
+    const std::string laatste = right(kaart, 1);
+    for (int rang = 10; rang <= 14; ++rang) {
+        if (laatste == LeesResString(kaart::bericht_van_rang(rang))) return rang;
+    }
+    return numeric_value(laatste);
+}
+
+std::optional<kaart::Kleur> frmTavrin03::kleur_van_letter(const std::string& letter) const {
+    for (const kaart::Kleur kleur : kaart::kKleuren) {
+        if (letter == LeesResString(kaart::gegevens(kleur).letter)) return kleur;
+    }
+    return std::nullopt;
+}
+
+void frmTavrin03::MaakLabelSchoon() {
+    Foutpad("frmTavrin03 - General - MaakLabelSchoon", [&] {
+        elk_label([](forms::Label& label) {
+            label.Caption = "";
+            label.Visible = false;
+            label.BackColor = kInHand;
+        });
+    });
+}
+
+void frmTavrin03::KleurKaartGroen(int speler, const std::string& waarde, const std::string& kleur) {
+    Foutpad("frmTavrin03 - General - KleurKaartGroen", [&] {
+        const auto van = kleur_van_letter(kleur);
+        if (!van || speler < 1 || speler > 4) return;
+        for (int i = 0; i <= kHoogste && rij(speler, *van)(i).Visible; ++i) {
+            if (!(rij(speler, *van)(i).Caption == waarde)) continue;
+            rij(speler, *van)(i).BackColor = kGespeeld;
+            return;
+        }
+    });
+}
+
+void Kaarten::SlagenTeller(frmTavrin03& scherm) {
+    scherm.Foutpad("Kaarten - General - SlagenTeller", [&] {
+        forms::FlexGrid& raster = scherm.msfgTavrin;
+        raster.Visible = false;
+        int noord_zuid = 0;
+        int oost_west = 0;
+        // The coloured cell of row 1 is the opening lead, which no trick won.
+        for (int rij = 2; rij < raster.Rows(); ++rij) {
+            raster.Row = rij;
+            for (int kolom = 1; kolom < raster.Cols(); ++kolom) {
+                raster.Col = kolom;
+                if (raster.CellBackColor() == kInHand) continue;
+                ++(kolom == 1 || kolom == 3 ? noord_zuid : oost_west);
+            }
+        }
+        raster.Visible = true;
+        scherm.lblSlagenTellerNZ.Caption = std::to_string(noord_zuid);
+        scherm.lblSlagenTellerOW.Caption = std::to_string(oost_west);
+    });
+}

@@ -1,0 +1,87 @@
+// Saving the recorded play as a package.
+#include "cards/Kaarten.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
+#include "prepare/frmTavrin03.h"
+#include "services/Bas_Aftavrin.h"
+
+namespace {
+
+constexpr const char* kVoorvoegsel = "QVT_";
+
+}  // namespace
+
+void frmTavrin03::cmdOpslaan_Click() {
+    Foutpad("frmTavrin03 - cmdOpslaan - Click", [&] {
+        gedeeld.spelMap = join_path(RVLXMap, "Spellen");
+        gedeeld.spelMapKopie = programma.pakketten();
+        Bas_Aftavrin::SchrijfINI(programma, "Standaard", "LaatsteRVLX", lstRVLX.Text(), programma.instellingen());
+        gedeeld.spelNaam = lstAfTavrin.Text().empty() ? kVoorvoegsel + lstRVLX.Text() : lstAfTavrin.Text();
+        gedeeld.spelMapKopie = join_path(gedeeld.spelMapKopie, gedeeld.spelNaam);
+        cmdOpslaan.Enabled = false;
+        Bas_Aftavrin::MaakPad(gedeeld.spelMapKopie);
+        if (gedeeld.spelMapKopie.ends_with(kPathSeparator)) gedeeld.spelMapKopie.pop_back();
+
+        const std::string stam = join_path(gedeeld.spelMapKopie, gedeeld.spelNaam);
+        const bool bestaat = Bas_Aftavrin::BestandStatus(stam + " aftavrin.txt") == 1;
+        if (bestaat) {
+            const std::string vraag = replaced(replaced(LeesResString(10050), "~", lstAfTavrin.Text()), "|", "\n");
+            if (programma.platform.message_box(box_style::kQuestion, Caption(), vraag) == Answer::No) return;
+        }
+        stel_speelrijen_op();
+        schrijf_speelbestanden(stam);
+        if (bestaat) {
+            write_file(stam + " Vraag.txt", txtVraag.Text());
+            write_file(stam + " Antwoord.txt", txtAntwoord.Text());
+        } else if (!lstRVLX.Text().empty()) {
+            filSpellen.Pattern = "*.txt";
+            filSpellen.Path = join_path(gedeeld.spelMap, lstRVLX.Text());
+            for (int i = 0; i < filSpellen.ListCount(); ++i) {
+                copy_file(join_path(filSpellen.Path(), filSpellen.List(i)),
+                          join_path(gedeeld.spelMapKopie, kVoorvoegsel + filSpellen.List(i)));
+            }
+        }
+        LeesAftavrinSpellen();
+    });
+}
+
+// One line a trick: the order of the seats, and the cards in the order of the columns. Nobody checks that the grid is
+// full: an empty cell becomes card code 0, a row without a leader an empty order.
+void frmTavrin03::stel_speelrijen_op() {
+    lstOpslaan.Clear();
+    for (int r = 1; r < msfgTavrin.Rows(); ++r) {
+        std::string volgorde;
+        std::string kaarten;
+        msfgTavrin.Row = r;
+        for (int kolom = 1; kolom < msfgTavrin.Cols(); ++kolom) {
+            msfgTavrin.Col = kolom;
+            if (msfgTavrin.CellBackColor() != prepare::kInHand) {
+                volgorde.clear();
+                for (int plaats = kolom, i = 0; i < 4; ++i, plaats = kaart::volgende_plaats(plaats)) {
+                    volgorde += std::to_string(plaats);
+                }
+            }
+            kaarten += "|" + std::to_string(code_van_cel(msfgTavrin.Text()));
+        }
+        lstOpslaan.AddItem(volgorde + kaarten);
+    }
+}
+
+int frmTavrin03::code_van_cel(const std::string& tekst) const {
+    const auto kleur = kleur_van_letter(left(tekst, 1));
+    const int waarde = waarde_van(tekst);
+    return kleur ? kaart::code_van(waarde, *kleur) : waarde;
+}
+
+void frmTavrin03::schrijf_speelbestanden(const std::string& stam) {
+    lstInformatie.Clear();
+    std::vector<std::string> records;
+    for (int nummer = 1; nummer <= Kaarten::kAantalRecords; ++nummer) {
+        lstInformatie.AddItem(std::to_string(nummer) + "|");
+        records.push_back(lstInformatie.List(nummer - 1));
+    }
+    write_records(stam + " informatie.txt", Kaarten::kRecordLengte, records);
+    std::string regels;
+    for (int i = 0; i < lstOpslaan.ListCount(); ++i) regels += lstOpslaan.List(i) + "\r\n";
+    write_file(stam + " aftavrin.txt", regels);
+}

@@ -1,0 +1,81 @@
+// Taking up a stored package again, with its whole play.
+#include "cards/Kaarten.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
+#include "prepare/frmTavrin03.h"
+#include "services/Bas_Aftavrin.h"
+
+using prepare::kGespeeld;
+using prepare::kHoogste;
+using prepare::kInSlag;
+
+void frmTavrin03::lstAfTavrin_Click() {
+    Foutpad("frmTavrin03 - lstAftavrin - Click", [&] {
+        if (lstAfTavrin.ListIndex == -1) return;
+        MaakLabelSchoon();
+        lstAfTavrin.Tag = "";
+        txtVraag.Text = "";
+        txtAntwoord.Text = "";
+        txtKnipText.Text = "";
+        lstKnipTekst.Clear();
+        gedeeld.spelMap = programma.pakket(lstAfTavrin.Text());
+        gedeeld.spelMapKopie = gedeeld.spelMap;
+        gedeeld.spelNaam = lstAfTavrin.Text();
+        lstAfTavrin.Tag = std::to_string(lstAfTavrin.ListIndex);
+        LeesSpelIn();
+        if (Bas_Aftavrin::BestandStatus(join_path(gedeeld.spelMap, lstAfTavrin.Text() + " aftavrin.txt")) == 1) {
+            LeesModus = true;
+            lstVoorWissen.Clear();
+            speel_rijen_na();
+            sluit_laatste_slag();
+            Kaarten::SlagenTeller(*this);
+            tel_slag_voor(SlagWinnaar);
+            cmdOpslaan.Enabled = true;
+        } else {
+            programma.platform.message_box(
+                box_style::kInformation, Caption(),
+                lstAfTavrin.Text() + " " + replaced(LeesResString(10033), "|", "\n"));
+        }
+        gedeeld.uitkomstVast = true;
+        LeesModus = false;
+        cmdFocus.SetFocus();
+    });
+}
+
+void frmTavrin03::speel_rijen_na() {
+    const std::string map = join_path(dirAftavrin.Path(), lstAfTavrin.Text());
+    LineReader regels(join_path(map, lstAfTavrin.Text() + " aftavrin.txt"));
+    for (int r = 1; !regels.at_end();) {
+        gedeeld.regel = regels.line();
+        lstVoorWissen.AddItem(gedeeld.regel);
+        if (trimmed(gedeeld.regel).empty()) continue;
+        gedeeld.delen = split(gedeeld.regel, "|");
+        msfgTavrin.Row = r++;
+        for (int i = 1; i <= gedeeld.delen.last(); ++i) {
+            msfgTavrin.Col = i;
+            msfgTavrin.SetText(cel_tekst(gedeeld.delen[i]));
+            msfgTavrin.SetCellAlignment(forms::FlexGrid::CellAlignment::Centre);
+        }
+        // A first character that is no digit colours the heading column.
+        msfgTavrin.Col = numeric_value(left(gedeeld.delen[0], 1));
+        msfgTavrin.SetCellBackColor(kInSlag);
+    }
+    elk_label([](forms::Label& label) {
+        if (label.Visible) label.BackColor = kGespeeld;
+    });
+}
+
+// No row after the last trick tells its winner: VolgendeKaart works it out.
+void frmTavrin03::sluit_laatste_slag() {
+    msfgTavrin.Row = msfgTavrin.Rows() - 1;
+    const std::string vierde = left(middle(gedeeld.regel, 4), 1);
+    int speler = numeric_value(vierde);
+    if (!vierde.empty()) msfgTavrin.Col = speler;
+    VolgendeKaart(speler, msfgTavrin.Text(), kHoogste);
+}
+
+std::string frmTavrin03::cel_tekst(const std::string& kaartcode) const {
+    const int nummer = numeric_value(kaartcode) - kaart::kCodeBasis;
+    return LeesResString(kaart::gegevens(kaart::kleur_van(nummer)).letter) + " " +
+           Kaarten::waarde_letter(*this, nummer);
+}

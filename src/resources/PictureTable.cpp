@@ -1,0 +1,80 @@
+#include "resources/PictureTable.h"
+
+#include <array>
+#include <string>
+#include <utility>
+
+#include "base/Fout.h"
+#include "resources/CardFaces.h"
+#include "resources/Glyphs.h"
+#include "resources/ScreenPictures.h"
+#include "resources/SuitShapes.h"
+
+namespace resources {
+
+namespace {
+
+constexpr int kFirstSymbol = 106;
+constexpr int kNoTrump = 110;
+constexpr int kSmallFaces = 2100;
+constexpr int kLargeFaces = 2200;
+constexpr int kCards = 52;
+constexpr int kBack = 2253;
+
+bool is_face(int number, int base) { return number > base && number <= base + kCards; }
+
+Drawing suit_symbol(Suit suit) {
+    Drawing drawing{14, 14, {}};
+    return drawing.fill(suit_path(suit, {7, 7}, 13), suit_colour(suit));
+}
+
+Drawing no_trump_letters() {
+    constexpr double kHeight = 15;
+    Drawing drawing{23, 18, {}};
+    const double left = (drawing.width - text_width("SA", kHeight)) / 2;
+    return drawing.fill(text_path("SA", kHeight).transformed(Transform::move(left, (drawing.height - kHeight) / 2)),
+                        Colour{0});
+}
+
+}  // namespace
+
+bool has_picture(int number) {
+    return (number >= kFirstSymbol && number <= kNoTrump) || is_face(number, kSmallFaces) ||
+           is_face(number, kLargeFaces) || number == kBack;
+}
+
+Drawing draw_picture(int number) {
+    if (!has_picture(number)) throw Fout(FoutNummer::NoSuchResource, std::to_string(number));
+    if (number == kNoTrump) return no_trump_letters();
+    // The symbols rise with the rank of their suit, the cards go down.
+    if (number < kNoTrump) return suit_symbol(static_cast<Suit>(kNoTrump - 1 - number));
+    if (number == kBack) return card_back();
+    return number > kLargeFaces ? card_face(number - kLargeFaces, CardSize::Large)
+                                : card_face(number - kSmallFaces, CardSize::Small);
+}
+
+Size picture_size(int number) {
+    if (!has_picture(number)) throw Fout(FoutNummer::NoSuchResource, std::to_string(number));
+    if (number == kNoTrump) return {23, 18};
+    if (number < kNoTrump) return {14, 14};
+    return is_face(number, kSmallFaces) ? Size{65, 97} : Size{104, 156};
+}
+
+Drawing draw_named_picture(std::string_view name) {
+    using Draw = Drawing (*)();
+    static constexpr std::array<std::pair<std::string_view, Draw>, 7> kNamed{{
+        {"logo", draw_logo},
+        {"maker", draw_maker},
+        {"gezicht0", [] { return draw_error_face(Eyes::Open); }},
+        {"gezicht1", [] { return draw_error_face(Eyes::Closed); }},
+        {"ja", draw_marker_text},
+        {"nee", draw_marker_empty},
+        {"bezig", draw_marker_busy},
+    }};
+    for (const auto& [known, draw] : kNamed) {
+        if (known == name) return draw();
+    }
+    throw Fout(FoutNummer::NoSuchResource, std::string(name));
+}
+
+}  // namespace resources

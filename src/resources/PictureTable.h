@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string_view>
+
+#include "resources/Drawing.h"
+
+namespace resources {
+
+struct Size {
+    int width = 0;   // pixels at 96 dpi
+    int height = 0;  // pixels at 96 dpi
+
+    friend bool operator==(Size, Size) = default;
+};
+
+// The pictures that go by number:
+//   106-109    the symbols of klaveren, ruiten, harten, schoppen, 14 by 14
+//   110        the letters SA, 23 by 18
+//   2101-2152  the small card faces, 65 by 97
+//   2201-2252  the large card faces, 104 by 156
+//   2253       the card back, 104 by 156
+bool has_picture(int number);
+
+// Failure 326 if the table has no such number. Every call draws anew.
+Drawing draw_picture(int number);
+Size picture_size(int number);
+
+// The screens' own pictures; failure 326 for any other name:
+//   "logo"                    208 by 54, opaque
+//   "maker"                   110 by 110, opaque
+//   "gezicht0", "gezicht1"    140 by 128, the same face with open and with closed eyes
+//   "ja", "nee", "bezig"      30 by 30, the markers of a card: has a text, has none, in work
+Drawing draw_named_picture(std::string_view name);
+
+}  // namespace resources

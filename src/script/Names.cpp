@@ -1,0 +1,163 @@
+#include "script/Names.h"
+
+#include <array>
+#include <charconv>
+#include <regex>
+
+#include "base/Text.h"
+#include "forms/FlexGrid.h"
+#include "forms/Form.h"
+#include "forms/ListBox.h"
+#include "forms/Windows.h"
+
+namespace script {
+
+namespace {
+
+int number_or(const std::string& text, int otherwise) { return text.empty() ? otherwise : whole_number(text); }
+
+std::string part_property(const Target& target, const std::string& property) {
+    if (const auto* grid = dynamic_cast<forms::FlexGrid*>(target.control)) {
+        const forms::FlexGrid::Cell& cell = grid->cell(target.row, target.col);
+        if (equal_ignoring_case(property, "Text")) return cell.text;
+        if (equal_ignoring_case(property, "CellBackColor")) return forms::property_text(cell.colour);
+    }
+    if (const auto* list = dynamic_cast<forms::ListBox*>(target.control)) {
+        if (equal_ignoring_case(property, "Text")) return list->List(target.row);
+        if (equal_ignoring_case(property, "Selected")) return forms::property_text(list->Selected(target.row));
+    }
+    throw CommandError("no property " + property);
+}
+
+// Values that are no properties of their own.
+bool derived_property(const forms::Control& control, const std::string& property, std::string& value) {
+    if (const auto* list = dynamic_cast<const forms::ListBox*>(&control)) {
+        if (equal_ignoring_case(property, "ListCount")) value = std::to_string(list->ListCount());
+        if (equal_ignoring_case(property, "Text")) value = list->Text();
+        return equal_ignoring_case(property, "ListCount") || equal_ignoring_case(property, "Text");
+    }
+    if (const auto* grid = dynamic_cast<const forms::FlexGrid*>(&control)) {
+        if (!equal_ignoring_case(property, "Text")) return false;
+        value = grid->Text();
+        return true;
+    }
+    return false;
+}
+
+std::string shown_value(const forms::Control& control) {
+    if (const auto* list = dynamic_cast<const forms::ListBox*>(&control)) {
+        return std::to_string(list->ListCount()) + " lines, " + std::to_string(list->ListIndex());
+    }
+    std::string value;
+    for (const char* name : {"Caption", "Text", "Picture", "Value", "Interval"}) {
+        const forms::PropertyBase* property = control.find_property(name);
+        if (property && !property->text().empty()) value += (value.empty() ? "" : " ") + escaped(property->text());
+    }
+    return value;
+}
+
+}  // namespace
+
+int whole_number(const std::string& text) {
+    int value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc() || end != text.data() + text.size()) throw CommandError("no number: " + text);
+    return value;
+}
+
+double number(const std::string& text) {
+    double value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc() || end != text.data() + text.size()) throw CommandError("no number: " + text);
+    return value;
+}
+
+forms::Form& find_form(const forms::Windows& windows, const std::string& name) {
+    forms::Form* form = windows.find(name);
+    if (!form) throw CommandError("no screen " + name);
+    return *form;
+}
+
+Target find_target(const forms::Windows& windows, const std::string& name) {
+    static const std::regex kName(R"((\w+)(?:\.(\w+)(?:\((-?\d+)\))?(?:\[(\d+)(?:,(\d+))?\])?)?)");
+    constexpr std::size_t kLongest = 200;  // the matching of a longer one could use up the stack
+    std::smatch parts;
+    if (name.size() > kLongest) throw CommandError("no name: too long");
+    if (!std::regex_match(name, parts, kName)) throw CommandError("no name: " + name);
+    Target target;
+    target.form = &find_form(windows, parts[1]);
+    if (!parts[2].matched) return target;
+    target.control = target.form->find_control(parts[2], number_or(parts[3], forms::Control::kNoIndex));
+    if (!target.control) throw CommandError("no control " + name);
+    target.part = parts[4].matched;
+    target.row = number_or(parts[4], 0);
+    target.col = number_or(parts[5], 0);
+    return target;
+}
+
+std::string property_of(const forms::Windows& windows, const std::string& name) {
+    const std::size_t dot = name.rfind('.');
+    if (dot == std::string::npos) throw CommandError("no property: " + name);
+    const std::string property = name.substr(dot + 1);
+    const Target target = find_target(windows, name.substr(0, dot));
+    if (target.part) return part_property(target, property);
+    std::string value;
+    if (target.control && derived_property(*target.control, property, value)) return value;
+    if (!target.control && equal_ignoring_case(property, "ActiveControl")) {
+        return target.form->focus() ? target.form->focus()->name() : std::string();
+    }
+    const forms::PropertyOwner& owner =
+        target.control ? static_cast<const forms::PropertyOwner&>(*target.control) : *target.form;
+    const forms::PropertyBase* found = owner.find_property(property);
+    if (!found) throw CommandError("no property " + property);
+    return found->text();
+}
+
+std::string describe(const forms::Control& control) {
+    std::string line = control.name();
+    if (control.index() != forms::Control::kNoIndex) line += "(" + std::to_string(control.index()) + ")";
+    line += std::string(" ") + control.kind() + (control.Visible ? " visible" : " hidden") +
+            (control.Enabled ? " enabled" : " disabled");
+    for (const double measure : {control.Left(), control.Top(), control.Width(), control.Height()}) {
+        line += " " + forms::property_text(measure);
+    }
+    return line + " " + shown_value(control);
+}
+
+namespace {
+
+constexpr std::array<std::pair<char, char>, 4> kEscapes{{{'\r', 'r'}, {'\n', 'n'}, {'\t', 't'}, {'\\', '\\'}}};
+
+}  // namespace
+
+std::string escaped(const std::string& text) {
+    std::string result;
+    for (const char character : text) {
+        char letter = 0;
+        for (const auto& [meant, written] : kEscapes) {
+            if (meant == character) letter = written;
+        }
+        result += letter == 0 ? std::string(1, character) : std::string{'\\', letter};
+    }
+    return result;
+}
+
+std::string unescaped(const std::string& text) {
+    std::string result;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        char character = text[at];
+        if (character == '\\' && at + 1 < text.size()) {
+            for (const auto& [meant, written] : kEscapes) {
+                if (written == text[at + 1]) {
+                    character = meant;
+                    ++at;
+                    break;
+                }
+            }
+        }
+        result += character;
+    }
+    return result;
+}
+
+}  // namespace script

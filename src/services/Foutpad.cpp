@@ -1,0 +1,8 @@
+#include "services/Foutpad.h"
+
+void meld_fout(Programma& programma, const std::string& plaats, int nummer, const std::string& naam) {
+    programma.gedeeld.foutPlaats = plaats;
+    programma.gedeeld.foutNummer = nummer;
+    programma.gedeeld.foutNaam = naam;
+    programma.schermen.toon("frmTavrin08");
+}

@@ -1,0 +1,14 @@
+#include "services/Scherm.h"
+
+#include "forms/Control.h"
+#include "services/Bas_Aftavrin.h"
+
+std::string Scherm::LeesResString(int nummer) const { return Bas_Aftavrin::LeesResString(programma, nummer); }
+
+void Scherm::zet_buiten_beeld(forms::Control& control) { control.Left = windows().host().screen_size().width + 10; }
+
+void Scherm::centreer() {
+    const forms::Size screen = windows().host().screen_size();
+    Left = static_cast<int>(screen.width - Width) / 2;
+    Top = static_cast<int>(screen.height - Height) / 2;
+}

@@ -1,0 +1,79 @@
+// The bidding box.
+#include "platform/Files.h"
+#include "services/Bas_Aftavrin.h"
+#include "table/Kaarten.h"
+#include "table/frmTavrin02.h"
+
+namespace Kaarten {
+
+namespace {
+
+constexpr double kHoogte = 3030;      // of the box with all nine rounds
+constexpr double kRondeHoogte = 260;  // what a dropped round takes off, less than the 270 between two rounds
+
+constexpr int kEersteSoortPlaatje = 106;  // strain digits 0 to 4 are the pictures 106 to 110
+
+void lees_bod(Scherm& scherm, LineReader& bestand, BiedingPaneel& paneel, std::size_t plaats, int ronde) {
+    Gedeeld& gedeeld = scherm.gedeeld;
+    gedeeld.regel = bestand.line();
+    gedeeld.delen = split(gedeeld.regel, "~");
+    const Pieces& delen = gedeeld.delen;
+
+    forms::Label& bod = paneel.lblB[plaats](ronde);
+    forms::PictureBox& soort = paneel.picB[plaats](ronde);
+    forms::Label& teken = paneel.lblA[plaats](ronde);
+    bod.Caption = delen[0];
+    bod.Tag = delen[1];
+    const std::string& cijfer = delen[1];
+    if (cijfer.size() == 1 && cijfer[0] >= '0' && cijfer[0] <= '4') {
+        soort.Picture = Bas_Aftavrin::LaadPlaatje(kEersteSoortPlaatje + (cijfer[0] - '0'));
+    }
+    teken.Caption = delen[2];
+    bod.Visible = !delen[0].empty();
+    soort.Visible = !cijfer.empty() && numeric_value(cijfer) < 5;
+    teken.Visible = !delen[2].empty();
+}
+
+}  // namespace
+
+void ZetPositieBieding(frmTavrin02& tafel) {
+    tafel.Foutpad("Kaarten - General - ZetPositieBieding", [&] {
+        tafel.fraBieding.Visible = false;
+        tafel.fraBieding.Move(tafel.picBack.Width - tafel.fraBieding.Width - 256, tafel.hand(1)(1).Top - 128);
+        for (int i = 0; i <= 3; ++i) tafel.lblBieding(i).Caption = tafel.LeesResString(10019 + i);
+        for (int ronde = 0; ronde < BiedingPaneel::kRondes; ++ronde) {
+            tafel.lblNum(ronde).Visible = false;
+            for (std::size_t plaats = 0; plaats < 4; ++plaats) {
+                tafel.lblB[plaats](ronde).Caption = "";
+                tafel.picB[plaats](ronde).Picture = forms::Picture{};
+                tafel.lblA[plaats](ronde).Caption = "";
+            }
+        }
+    });
+}
+
+void ToonBieding(Scherm& scherm, BiedingPaneel& paneel) {
+    scherm.Foutpad("Kaarten - General - ToonBieding", [&] {
+        const std::string pad = bestand(scherm.gedeeld, " bieding.txt");
+        if (Bas_Aftavrin::BestandStatus(pad) == 1) {
+            LineReader regels(pad);
+            regels.line();
+            for (std::size_t plaats = 0; plaats < 4; ++plaats) {
+                for (int ronde = 0; ronde < BiedingPaneel::kRondes; ++ronde) {
+                    lees_bod(scherm, regels, paneel, plaats, ronde);
+                }
+            }
+        }
+        // Noord's column alone tells which rounds there were.
+        double hoogte = kHoogte;
+        for (int ronde = BiedingPaneel::kRondes - 1; ronde >= 0; --ronde) {
+            const bool gebruikt = paneel.lblB[0](ronde).Visible;
+            if (!gebruikt) hoogte -= kRondeHoogte;
+            paneel.lblNum(ronde).Visible = gebruikt;
+        }
+        paneel.fraBieding.Height = hoogte;
+        paneel.fraBieding.Visible = true;
+    });
+}
+
+}  // namespace Kaarten

@@ -1,0 +1,269 @@
+// The places of the hands, closed and open, and of the information beside them.
+#include "platform/Files.h"
+#include "services/Bas_Aftavrin.h"
+#include "table/Kaarten.h"
+#include "table/frmTavrin02.h"
+
+namespace Kaarten {
+
+namespace {
+
+constexpr int kKaarten = 13;
+
+// Column of position p in the four rows of a closed side hand, of 4, 3, 3 and 3 cards.
+int kolom_van(int p) { return p <= 4 ? p : (p - 5) % 3 + 1; }
+bool begint_rij(int p) { return p == 5 || p == 8 || p == 11; }
+
+void zet_kaart(forms::PictureBox& kaart, double left, double top) {
+    kaart.Move(left, top);
+    kaart.ZOrder();
+}
+
+void leg_rij(frmTavrin02& tafel, int plaats, double links, double boven) {
+    for (int p = 1; p <= kKaarten; ++p) {
+        forms::PictureBox& kaart = tafel.hand(plaats)(p);
+        zet_kaart(kaart, p * tafel.gedeeld.kaartStap + links, boven);
+        kaart.Visible = true;
+    }
+}
+
+void leg_blok(frmTavrin02& tafel, int plaats, double links, double boven) {
+    for (int p = 1; p <= kKaarten; ++p) {
+        if (begint_rij(p)) boven += tafel.gedeeld.rijStap;
+        forms::PictureBox& kaart = tafel.hand(plaats)(p);
+        zet_kaart(kaart, kolom_van(p) * tafel.gedeeld.kaartStap + links, boven);
+        kaart.Visible = true;
+    }
+}
+
+void keer_kaart(frmTavrin02& tafel, int plaats, int positie, const std::string& code) {
+    forms::PictureBox& kaart = tafel.hand(plaats)(positie);
+    frmTavrin02::toon_kaart(kaart, numeric_value(code));
+    kaart.Tag = std::to_string(numeric_value(code));
+}
+
+// Runs through a seat's cards as an open hand shows them: by suit, the highest card of each first.
+template <class Action>
+void voor_elke_kaart(frmTavrin02& tafel, int plaats, Action action) {
+    int positie = 0;
+    for (const kaart::Kleur kleur : kaart::kToonVolgorde) {
+        const forms::ListBox& lijst = tafel.suit(kleur, plaats);
+        for (int i = lijst.ListCount() - 1; i >= 0; --i) action(++positie, lijst.List(i));
+    }
+}
+
+void open_hand(frmTavrin02& tafel, int plaats) {
+    voor_elke_kaart(tafel, plaats,
+                    [&](int positie, const std::string& code) { keer_kaart(tafel, plaats, positie, code); });
+}
+
+void maak_zichtbaar(frmTavrin02& tafel, int plaats) {
+    for (int p = 1; p <= kKaarten; ++p) tafel.hand(plaats)(p).Visible = true;
+}
+
+// Places the four suit rows of a side hand. False as soon as a card of a row would pass the limit.
+bool leg_kleuren(frmTavrin02& tafel, int plaats, double links, double boven, double grens) {
+    const double stap = tafel.gedeeld.kaartStap;
+    int positie = 0;
+    for (const kaart::Kleur kleur : kaart::kToonVolgorde) {
+        const forms::ListBox& lijst = tafel.suit(kleur, plaats);
+        int kolom = 0;
+        for (int i = lijst.ListCount() - 1; i >= 0; --i) {
+            keer_kaart(tafel, plaats, ++positie, lijst.List(i));
+            zet_kaart(tafel.hand(plaats)(positie), ++kolom * stap + links, boven);
+        }
+        // The column that counts is that of the row's last card.
+        if (kolom * stap + links + tafel.hand(plaats)(1).Width + 128 > grens) return false;
+        boven += tafel.gedeeld.rijStap;
+    }
+    return true;
+}
+
+void zet_rechts_naast(forms::Control& control, const forms::Control& links, double afstand, double top) {
+    control.Move(links.right() + afstand, top);
+}
+
+// The places of the cards played, in the middle between the four hands. Both divisions are those of whole twips.
+void zet_gespeelde_plekken(frmTavrin02& tafel) {
+    auto& picPlay = tafel.picPlay;
+    const double west = tafel.hand(4)(4).right();
+    const double oost = tafel.hand(2)(1).Left;
+    const double x = west + static_cast<int>(oost - west - picPlay(1).Width) / 2;
+    picPlay(1).Move(x, tafel.hand(1)(1).bottom() + 128);
+    picPlay(3).Move(x, tafel.hand(3)(1).Top - picPlay(1).Height - 128);
+    const double y = static_cast<int>(picPlay(1).Top + picPlay(3).Top + picPlay(3).Height) / 2 -
+                     static_cast<int>(picPlay(3).Height) / 2;
+    picPlay(4).Move(west + 128, y);
+    picPlay(2).Move(oost - picPlay(1).Width - 128, y);
+    for (int plaats = 1; plaats <= 4; ++plaats) picPlay(plaats).Visible = true;
+}
+
+void toon_nummer(frmTavrin02& tafel) {
+    Gedeeld& gedeeld = tafel.gedeeld;
+    gedeeld.delen = split(gedeeld.spelNaam, " ");
+    if (gedeeld.delen.last() == 0) {
+        // A name without a blank gets the word before it; the file names are built with the changed name from here on.
+        gedeeld.spelNaam = tafel.LeesResString(10013) + " " + gedeeld.spelNaam;
+        gedeeld.delen = split(gedeeld.spelNaam, " ");
+    }
+    tafel.lblNummer.Caption = std::to_string(numeric_value(gedeeld.delen[1]));
+}
+
+void toon_contract(frmTavrin02& tafel) {
+    Gedeeld& gedeeld = tafel.gedeeld;
+    const std::string pad = bestand(gedeeld, " contract.txt");
+    if (Bas_Aftavrin::BestandStatus(pad) != 1) return;
+    gedeeld.regel = eerste_regel(pad);
+    gedeeld.delen = split(gedeeld.regel, " ");
+    tafel.lblContractWie.Caption = gedeeld.delen[0] + ": " + gedeeld.delen[1];
+    const std::string soort = lower_case(gedeeld.delen[2]);
+    for (const kaart::Kleur kleur : kaart::kKleuren) {
+        if (soort != kaart::gegevens(kleur).naam) continue;
+        tafel.picContract.Picture = Bas_Aftavrin::LaadPlaatje(kaart::gegevens(kleur).plaatje);
+        gedeeld.troefLetter = tafel.LeesResString(kaart::gegevens(kleur).letter);
+    }
+    if (soort == "sa") {
+        tafel.picContract.Picture = Bas_Aftavrin::LaadPlaatje(kaart::kPlaatjeSansAtout);
+        gedeeld.troefLetter.clear();
+    }
+    tafel.lblInfo(0).Move(tafel.lblSpel.right() - tafel.lblInfo(0).Width, tafel.lblNummer.bottom() + 256);
+    zet_rechts_naast(tafel.lblContractWie, tafel.lblInfo(0), 32, tafel.lblInfo(0).Top - 16);
+    zet_rechts_naast(tafel.picContract, tafel.lblContractWie, 32, tafel.lblContractWie.Top + 16);
+    tafel.picContract.Visible = true;
+}
+
+void toon_uitkomst(frmTavrin02& tafel) {
+    Gedeeld& gedeeld = tafel.gedeeld;
+    const std::string pad = bestand(gedeeld, " uitkomst.txt");
+    if (Bas_Aftavrin::BestandStatus(pad) != 1) return;
+    gedeeld.regel = eerste_regel(pad);
+    gedeeld.delen = split(gedeeld.regel, " - ");
+    const std::string& kaart = gedeeld.delen[1];
+    if (!kaart.empty() && kaart[0] >= '0' && kaart[0] <= '3') {
+        const auto kleur = static_cast<kaart::Kleur>(kaart[0] - '0');
+        tafel.picUitkomst.Picture = Bas_Aftavrin::LaadPlaatje(kaart::gegevens(kleur).plaatje);
+    }
+    tafel.lblInfo(1).Move(tafel.lblInfo(0).right() - tafel.lblInfo(1).Width, tafel.lblInfo(0).bottom() + 128);
+    zet_rechts_naast(tafel.lblUitkomstWind, tafel.lblInfo(1), 32, tafel.lblInfo(1).Top - 16);
+    tafel.lblUitkomstWind.Caption = gedeeld.delen[0] + " - ";
+    zet_rechts_naast(tafel.picUitkomst, tafel.lblUitkomstWind, 3, tafel.lblUitkomstWind.Top + 16);
+    tafel.lblUitkomstKaart.Caption = trimmed(middle(kaart, 2));
+    zet_rechts_naast(tafel.lblUitkomstKaart, tafel.picUitkomst, 32, tafel.lblUitkomstWind.Top);
+    tafel.picUitkomst.Visible = true;
+    tafel.lblUitkomstKaart.Visible = true;
+}
+
+}  // namespace
+
+void NoordStartPositie(frmTavrin02& tafel) {
+    tafel.Foutpad("Kaarten - General - NoordStartPositie",
+                  [&] { leg_rij(tafel, 1, tafel.gedeeld.noordLinks, tafel.gedeeld.noordBoven); });
+}
+
+void ZuidStartPositie(frmTavrin02& tafel) {
+    tafel.Foutpad("Kaarten - General - ZuidStartPositie",
+                  [&] { leg_rij(tafel, 3, tafel.gedeeld.zuidLinks, tafel.gedeeld.zuidBoven); });
+}
+
+void OostStartPositie(frmTavrin02& tafel) {
+    tafel.Foutpad("Kaarten - General - OostStartPositie",
+                  [&] { leg_blok(tafel, 2, tafel.gedeeld.oostLinks, tafel.gedeeld.oostBoven); });
+}
+
+void WestStartPositie(frmTavrin02& tafel) {
+    tafel.Foutpad("Kaarten - General - WestStartPositie",
+                  [&] { leg_blok(tafel, 4, tafel.gedeeld.westLinks, tafel.gedeeld.westBoven); });
+}
+
+void OverigeStartPositie(frmTavrin02& tafel) {
+    tafel.Foutpad("Kaarten - General - OverigeStartPositie", [&] {
+        tafel.gedeeld.troefLetter.clear();
+        for (int p = 1; p <= kKaarten; ++p) {
+            for (int plaats = 1; plaats <= 4; ++plaats) {
+                tafel.hand(plaats)(p).Picture = Bas_Aftavrin::LaadPlaatje(tafel.gedeeld.kaartRugId);
+                tafel.hand(plaats)(p).BorderStyle = 0;
+            }
+        }
+        for (int plaats = 2; plaats <= 4; ++plaats) tafel.picPlay.Load(plaats);
+        tafel.Refresh();
+        zet_gespeelde_plekken(tafel);
+
+        forms::Label& noord_zuid = tafel.lblToonSlagen(0);
+        forms::Label& oost_west = tafel.lblToonSlagen(1);
+        noord_zuid.Move(300, 2040);
+        oost_west.Move(noord_zuid.right() - oost_west.Width, noord_zuid.bottom() + 128);
+        zet_rechts_naast(tafel.lblSlagenNZ, noord_zuid, 32, noord_zuid.Top);
+        zet_rechts_naast(tafel.lblSlagenOW, noord_zuid, 32, oost_west.Top);
+        tafel.lblSlagenNZ.Caption = "0";
+        tafel.lblSlagenOW.Caption = "0";
+
+        tafel.lblSpel.Move(150, tafel.hand(1)(1).Top + 180);
+        zet_rechts_naast(tafel.lblNummer, tafel.lblSpel, 180, tafel.lblSpel.Top - 64);
+        toon_nummer(tafel);
+        toon_contract(tafel);
+        toon_uitkomst(tafel);
+    });
+}
+
+void NoordZijnKaarten(frmTavrin02& tafel) {
+    tafel.Foutpad("Kaarten - General - NoordZijnKaarten", [&] {
+        open_hand(tafel, 1);
+        maak_zichtbaar(tafel, 1);
+    });
+}
+
+void ZuidZijnKaarten(frmTavrin02& tafel) {
+    tafel.Foutpad("Kaarten - General - ZuidZijnKaarten", [&] {
+        open_hand(tafel, 3);
+        maak_zichtbaar(tafel, 3);
+        const std::array kopie{&tafel.lstZuidSchoppen, &tafel.lstZuidHarten, &tafel.lstZuidRuiten,
+                               &tafel.lstZuidKlaveren};
+        for (const kaart::Kleur kleur : kaart::kKleuren) {
+            forms::ListBox& doel = *kopie[static_cast<std::size_t>(kleur)];
+            const forms::ListBox& bron = tafel.suit(kleur, 3);
+            doel.Clear();
+            for (int i = bron.ListCount() - 1; i >= 0; --i) doel.AddItem(bron.List(i));
+        }
+    });
+}
+
+void OostZijnKaarten(frmTavrin02& tafel) {
+    tafel.Foutpad("Kaarten - General - OostZijnKaarten", [&] {
+        // A row that would run into the box of played cards moves the whole hand one step to the left.
+        double links = tafel.gedeeld.oostLinks;
+        const double grens = tafel.fraSlagen.Left;
+        while (!leg_kleuren(tafel, 2, links, tafel.gedeeld.oostBoven, grens)) links -= tafel.gedeeld.kaartStap;
+        maak_zichtbaar(tafel, 2);
+    });
+}
+
+void WestZijnKaarten(frmTavrin02& tafel) {
+    tafel.Foutpad("Kaarten - General - WestZijnKaarten", [&] {
+        constexpr double kGeenGrens = 1e9;
+        leg_kleuren(tafel, 4, tafel.gedeeld.westLinks, tafel.gedeeld.westBoven, kGeenGrens);
+        maak_zichtbaar(tafel, 4);
+    });
+}
+
+void ToonKaartenDummy(frmTavrin02& tafel) {
+    tafel.Foutpad("Kaarten - General - ToonKaartenDummy", [&] {
+        const std::string wind = trimmed(tafel.gedeeld.dummyWind);
+        for (int plaats = 1; plaats <= 4; ++plaats) {
+            if (wind != tafel.LeesResString(kaart::bericht_van_plaats(plaats))) continue;
+            open_hand(tafel, plaats);
+            // The closed hand of the opening leader shows twelve backs from now on.
+            tafel.hand(kaart::vorige_plaats(plaats))(kKaarten).Visible = false;
+        }
+    });
+}
+
+void ToonKaartenLeider(frmTavrin02& tafel) {
+    tafel.Foutpad("Kaarten - General - ToonKaartenLeider", [&] {
+        const std::string wind = trimmed(tafel.gedeeld.leiderWind);
+        for (int plaats = 1; plaats <= 4; ++plaats) {
+            if (wind == tafel.LeesResString(kaart::bericht_van_plaats(plaats))) open_hand(tafel, plaats);
+        }
+    });
+}
+
+}  // namespace Kaarten

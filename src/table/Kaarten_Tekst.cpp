@@ -1,0 +1,90 @@
+// The teacher's words: the question before the play, and the text of a card.
+#include "platform/Files.h"
+#include "services/Bas_Aftavrin.h"
+#include "table/Kaarten.h"
+#include "table/Knip_Tekst.h"
+#include "table/frmTavrin02.h"
+
+namespace Kaarten {
+
+namespace {
+
+constexpr double kInformatieHoogte = 2827;
+constexpr int kSpareLines = 5;
+constexpr double kTwipsPerPoint = 15;
+
+std::string met_regeleinden(const forms::ListBox& lstKnipTekst) {
+    std::string tekst;
+    for (int i = 0; i < lstKnipTekst.ListCount(); ++i) tekst += lstKnipTekst.List(i) + "\r\n";
+    return tekst;
+}
+
+// The first record whose number at its head is that of the current card; -1 if there is none.
+int record_van_kaart(const frmTavrin02& tafel) {
+    for (int i = 0; i < tafel.lstInformatie.ListCount(); ++i) {
+        if (numeric_value(tafel.lstInformatie.List(i)) == tafel.gedeeld.kaartTeller) return i;
+    }
+    return -1;
+}
+
+}  // namespace
+
+void PlaatsInformatie(frmTavrin02& tafel) {
+    tafel.Foutpad("Kaarten - General - PlaatsInformatie", [&] {
+        const int record = record_van_kaart(tafel);
+        if (record < 0) return;
+        tafel.txtKnipTekst.Text = "";
+        tafel.lstKnipTekst.Clear();
+        tafel.txtInformatie.Text = "";
+        Pieces& delen = tafel.gedeeld.delen;
+        delen = split(tafel.lstInformatie.List(record), "|");
+        if (trimmed(delen[1]).empty()) return;
+
+        tafel.timSpeelKaart.Enabled = false;
+        tafel.txtKnipTekst.Text = replaced(delen[1], "~", "\r\n");
+        tafel.lstKnipTekst.Clear();
+        Knip_Tekst(tafel.txtKnipTekst, tafel.lstKnipTekst);
+        tafel.txtInformatie.Text = met_regeleinden(tafel.lstKnipTekst);
+        tafel.txtInformatie.Height = kInformatieHoogte;
+        tafel.txtInformatie.Visible = true;
+        tafel.cmdFocus.SetFocus();
+        tafel.cmdStart.Visible = false;
+        tafel.cmdVerder.Visible = true;
+        tafel.cmdVerder.SetFocus();
+    });
+}
+
+void LeesVraag(frmTavrin02& tafel) {
+    tafel.Foutpad("Kaarten - General - LeesVraag", [&] {
+        forms::TextBox& vraag = tafel.txtVraag;
+        tafel.txtInformatie.Visible = false;
+        tafel.txtInformatie.BorderStyle = 0;
+        vraag.BorderStyle = 0;
+        tafel.txtInformatie.Text = "";
+        vraag.Text = "";
+        tafel.txtKnipTekst.Text = "";
+        tafel.lstKnipTekst.Clear();
+        vraag.Width = tafel.fraBieding.Width;
+        vraag.Move(tafel.fraBieding.Left, tafel.hand(2)(1).Top);
+        vraag.Height = tafel.hand(3)(1).bottom() - vraag.Top;
+
+        const std::string pad = bestand(tafel.gedeeld, " vraag.txt");
+        if (Bas_Aftavrin::BestandStatus(pad) == 1) {
+            std::string& regel = tafel.gedeeld.regel;
+            std::string tekst;
+            for (LineReader regels(pad); !regels.at_end();) {
+                regel = regels.line();
+                tekst += replaced(regel, "~", "\r\n") + "\r\n";
+            }
+            tafel.txtKnipTekst.Text = tekst;
+        }
+        Knip_Tekst(tafel.txtKnipTekst, tafel.lstKnipTekst);
+        std::string tekst = met_regeleinden(tafel.lstKnipTekst);
+        tekst.pop_back();  // the line feed alone goes; the carriage return stays
+        vraag.Text = tekst;
+        vraag.Height = (tafel.lstKnipTekst.ListCount() + kSpareLines) * vraag.FontSize * kTwipsPerPoint;
+        vraag.Visible = true;
+    });
+}
+
+}  // namespace Kaarten

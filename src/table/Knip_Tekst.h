@@ -1,0 +1,8 @@
+#pragma once
+
+#include "forms/ListBox.h"
+#include "forms/TextBox.h"
+
+// Adds the lines of a text box, as the box breaks them at its width, to a list, each trimmed of blanks. Empty lines
+// are lines too. It never fails.
+void Knip_Tekst(const forms::TextBox& doos, forms::ListBox& lstKnipTekst);

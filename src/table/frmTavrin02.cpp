@@ -1,0 +1,388 @@
+#include "table/frmTavrin02.h"
+
+#include "cards/Kaarten.h"
+#include "services/Bas_Aftavrin.h"
+#include "table/Kaarten.h"
+
+namespace {
+
+constexpr forms::Size kInner{19200, 11400};  // until the window is maximised
+constexpr double kKaartBreedte = 1560;
+constexpr double kKaartHoogte = 2340;
+constexpr double kSymbool = 210;
+constexpr double kTussenruimte = 128;
+constexpr BiedingPaneel::Kolommen kBiedingKolommen{750, 1200};
+
+constexpr int kSlagen = 13;
+constexpr int kKaarten = 52;
+constexpr double kEersteKolom = 900;
+constexpr double kKolomStap = 1200;
+constexpr double kWoordNaastSymbool = 270;
+constexpr double kRijTop[kSlagen] = {360,  615,  885,  1140, 1410, 1665, 1935,
+                                     2190, 2460, 2715, 2985, 3240, 3510};
+
+constexpr int kTraagst = 3000;  // milliseconds a card, as the two below
+constexpr int kSnelst = 100;
+constexpr int kGewoneSnelheid = 1000;
+
+constexpr Colour kTafelgroen = Colour::rgb(24, 96, 60);
+constexpr Colour kWit = Colour::rgb(255, 255, 255);
+constexpr Colour kPapier = Colour::rgb(252, 250, 240);
+
+template <class T>
+tafel::PerPlaats<T> voor_plaatsen(const std::array<const char*, 4>& namen,
+                                  const std::function<forms::ControlArray<T>(const char*, int)>& maak) {
+    return {maak(namen[0], 0), maak(namen[1], 1), maak(namen[2], 2), maak(namen[3], 3)};
+}
+
+double kolom(int plaats) { return kEersteKolom + kKolomStap * plaats; }
+
+}  // namespace
+
+frmTavrin02::frmTavrin02(Programma& programma)
+    : Scherm(programma, "frmTavrin02", kInner),
+      Vlak(static_cast<forms::Form&>(*this)),
+      HandLijsten(static_cast<forms::Form&>(*this)),
+      BiedingPaneel(picBack, {10710, 180, 5325, 3105}, kBiedingKolommen),
+      picKaart(voor_plaatsen<forms::PictureBox>(
+          {"picKaartNoord", "picKaartOost", "picKaartZuid", "picKaartWest"},
+          [this](const char* naam, int) {
+              return forms::ControlArray<forms::PictureBox>(picBack, naam, {{1, {0, 0, kKaartBreedte, kKaartHoogte}}});
+          })),
+      picPlay(picBack, "picPlay", {{1, {0, 0, kKaartBreedte, kKaartHoogte}}}),
+      lblWind(fraSlagen, "lblWind", 0, 3, [](int i) { return forms::Rect{kolom(i), 90, 900, 195}; }),
+      lblSlag(fraSlagen, "lblSlag", 1, kSlagen,
+              [](int slag) { return forms::Rect{slag < 10 ? 150.0 : 90.0, kRijTop[slag - 1], 750, 195}; }),
+      picGespeeld(voor_plaatsen<forms::PictureBox>(
+          {"picN", "picO", "picZ", "picW"},
+          [this](const char* naam, int plaats) {
+              return forms::ControlArray<forms::PictureBox>(fraSlagen, naam, 1, kSlagen, [plaats](int slag) {
+                  return forms::Rect{kolom(plaats), 390.0 + 260 * (slag - 1), kSymbool, kSymbool};
+              });
+          })),
+      lblGespeeld(voor_plaatsen<forms::Label>(
+          {"lblN", "lblO", "lblZ", "lblW"},
+          [this](const char* naam, int plaats) {
+              return forms::ControlArray<forms::Label>(fraSlagen, naam, 1, kSlagen, [plaats](int slag) {
+                  return forms::Rect{kolom(plaats) + kWoordNaastSymbool, kRijTop[slag - 1], 900, 255};
+              });
+          })),
+      picSym(*this, "picSym", 1, 4, [](int) { return forms::Rect{0, 0, kSymbool, kSymbool}; }) {
+    stel_uiterlijk_in();
+    cmdTerug.Click = [this] { Foutpad("frmTavrin02 - cmdTerug - Click", [this] { Form_QueryUnload(); }); };
+    cmdStart.Click = [this] { cmdStart_Click(); };
+    cmdVerder.Click = [this] { cmdVerder_Click(); };
+    vscrSnelHeid.Change = [this] { vscrSnelHeid_Change(); };
+    timSpeelKaart.Tick = [this] { timSpeelKaart_Timer(); };
+    for (auto* doos : {&txtInformatie, &txtVraag, &txtSnelHeid}) doos->GotFocus = [this] { cmdFocus.SetFocus(); };
+}
+
+// What the screen looks like before its load places the rest.
+void frmTavrin02::stel_uiterlijk_in() {
+    picBack.BackColor = kTafelgroen;
+    picBack.Visible = false;
+    for (auto& hand : picKaart) hand.each([](forms::PictureBox& kaart) { kaart.Opaque = false; });
+    picKaart[0](1).Visible = picKaart[1](1).Visible = picKaart[2](1).Visible = picKaart[3](1).Visible = false;
+    picPlay.each([](forms::PictureBox& kaart) {
+        kaart.Opaque = false;
+        kaart.BorderStyle = 1;
+        kaart.Visible = false;
+    });
+    for (forms::Frame* doos : {&fraBieding, &fraSlagen}) {
+        doos->BackColor = kPapier;
+        doos->Visible = false;
+    }
+    for (const auto& [plaats, symbool] : picSym) {
+        symbool->Picture = Bas_Aftavrin::LaadPlaatje(kaart::gegevens(static_cast<kaart::Kleur>(plaats - 1)).plaatje);
+        symbool->Visible = false;
+    }
+    for (const auto& [slag, opschrift] : lblSlag) {
+        opschrift->Caption = LeesResString(52) + " " + std::to_string(slag) + ":";
+        opschrift->Visible = false;
+    }
+    lblWind.each([](forms::Label& opschrift) { opschrift.FontBold = true; });
+    for (const auto& [i, opschrift] : lblWind) opschrift->Caption = LeesResString(19 + i);
+
+    const auto op_de_tafel = [](forms::Label& opschrift, double punten) {
+        opschrift.FontSize = punten;
+        opschrift.AutoSize = true;
+        opschrift.ForeColor = kWit;
+    };
+    op_de_tafel(lblSpel, 18);
+    op_de_tafel(lblNummer, 24);
+    op_de_tafel(lblContractWie, 11.25);
+    op_de_tafel(lblUitkomstWind, 11.25);
+    op_de_tafel(lblUitkomstKaart, 11.25);
+    op_de_tafel(lblSlagenNZ, 9.75);
+    op_de_tafel(lblSlagenOW, 9.75);
+    for (auto* opschriften : {&lblInfo, &lblToonSlagen}) {
+        opschriften->each([&](forms::Label& opschrift) { op_de_tafel(opschrift, 9.75); });
+    }
+    lblUitkomstKaart.Visible = false;
+    for (forms::PictureBox* symbool : {&picContract, &picUitkomst}) {
+        symbool->BackColor = kWit;
+        symbool->Visible = false;
+    }
+    for (forms::TextBox* doos : {&txtVraag, &txtInformatie, &txtKnipTekst}) {
+        doos->MultiLine = true;
+        doos->FontSize = 12;
+        doos->BackColor = kPapier;
+        doos->Visible = false;
+    }
+    cmdVerder.Visible = false;
+    txtSnelHeid.Alignment = forms::Alignment::Centre;
+    txtSnelHeid.FontSize = 9.75;
+    lblSnelHeid.FontSize = 9.75;
+    lblSnelHeid.AutoSize = true;
+}
+
+void frmTavrin02::toon_kaart(forms::PictureBox& plek, int kaartcode) {
+    plek.Picture = Bas_Aftavrin::LaadPlaatje(kaartcode);
+    plek.BorderStyle = 0;
+    plek.AccessibleName = kaart::titel(kaartcode);
+}
+
+void frmTavrin02::Form_Load() {
+    Foutpad("frmTavrin02 - Form - Load", [&] {
+        zet_buiten_beeld(cmdFocus);
+        picBack.Height = 10275;
+        picBack.Width = 19065;
+        gedeeld.kaartRugId = kaart::kKaartRug;
+        Kaarten::ZetVariabelenOpNul(gedeeld);
+        Caption = LeesResString(10001);
+        WindowState = forms::WindowState::Maximised;
+        const forms::Size screen = windows().host().screen_size();
+        picBack.Move(static_cast<int>(screen.width - picBack.Width) / 2,
+                     static_cast<int>(screen.height - picBack.Height) / 2);
+        picBack.Visible = true;
+        picBack.BorderStyle = 1;
+        Refresh();
+
+        lstAfTavrin.Clear();
+        lstKnipTekst.Clear();
+        txtVraag.Text = "";
+        txtInformatie.Text = "";
+        txtKnipTekst.Text = "";
+        zet_opschriften();
+        for (int p = 2; p <= 13; ++p) {
+            for (int plaats = 1; plaats <= 4; ++plaats) hand(plaats).Load(p);
+        }
+        cmdTerug.Move(picBack.Left, picBack.bottom() + kTussenruimte);
+        cmdStart.Move(picBack.right() - cmdStart.Width, cmdTerug.Top);
+        cmdVerder.Move(cmdStart.Left, cmdTerug.Top);
+        vul_kaarten();
+        zet_gespeelde_kaarten_klaar();
+
+        gedeeld.kaartStap = 570;
+        gedeeld.rijStap = 500;
+        gedeeld.noordLinks = 2630;
+        gedeeld.noordBoven = 300;
+        gedeeld.zuidLinks = 2230;
+        gedeeld.zuidBoven = 7680;
+        gedeeld.westLinks = 570;
+        gedeeld.westBoven = 3300;
+        gedeeld.oostLinks = 9090;
+        gedeeld.oostBoven = 3300;
+
+        Kaarten::LeesInformatie(*this, lstInformatie);
+        Kaarten::NoordStartPositie(*this);
+        Kaarten::ZuidStartPositie(*this);
+        Kaarten::OostStartPositie(*this);
+        Kaarten::WestStartPositie(*this);
+        Kaarten::OverigeStartPositie(*this);
+        Kaarten::ZetPositieBieding(*this);
+        Kaarten::ToonBieding(*this, *this);
+        Kaarten::LeesKartenBestandIn(*this, *this);
+        Kaarten::VerdeelDeKaarten(*this, *this);
+        Kaarten::LeesVraag(*this);
+
+        lees_snelheid();
+        lblSnelHeid.Caption = LeesResString(10068) + ":";
+        lblSnelHeid.Refresh();
+        zet_snelheid_op_zijn_plaats();
+    });
+}
+
+void frmTavrin02::zet_opschriften() {
+    lblSpel.Caption = LeesResString(10013) + ":";
+    lblInfo(0).Caption = LeesResString(10014) + ":";
+    lblInfo(1).Caption = LeesResString(10015) + ":";
+    lblToonSlagen(0).Caption = LeesResString(10016) + ":";
+    lblToonSlagen(1).Caption = LeesResString(10017) + ":";
+    cmdTerug.Caption = "&" + LeesResString(10018);
+    cmdStart.Caption = "&" + LeesResString(10023);
+    cmdVerder.Caption = "&" + LeesResString(10024);
+}
+
+void frmTavrin02::zet_gespeelde_kaarten_klaar() {
+    for (int slag = 1; slag <= kSlagen; ++slag) {
+        for (std::size_t plaats = 0; plaats < 4; ++plaats) {
+            picGespeeld[plaats](slag).Visible = false;
+            lblGespeeld[plaats](slag).Visible = false;
+            picGespeeld[plaats](slag).Top = picGespeeld[0](slag).Top;
+            lblGespeeld[plaats](slag).Top = lblGespeeld[0](slag).Top;
+        }
+    }
+}
+
+void frmTavrin02::lees_snelheid() {
+    bezigMetLaden = true;
+    gedeeld.speelSnelheid = kGewoneSnelheid;
+    const std::string waarde = Bas_Aftavrin::LeesIni(programma, "Standaard", "Snelheid", programma.instellingen());
+    if (!waarde.empty()) gedeeld.speelSnelheid = numeric_value(waarde);
+    for (int snelheid = kTraagst; snelheid >= kSnelst; snelheid -= 100) {
+        if (snelheid == gedeeld.speelSnelheid) vscrSnelHeid.Value = lstSnelheid.ListCount();
+        lstSnelheid.AddItem(std::to_string(snelheid));
+    }
+    vscrSnelHeid.Max = lstSnelheid.ListCount();
+    vscrSnelHeid.Min = -1;
+    txtSnelHeid.Text = std::to_string(gedeeld.speelSnelheid);
+    bezigMetLaden = false;
+}
+
+// The parts of the speed box stand from its right edge leftwards, and the box left of the start button.
+void frmTavrin02::zet_snelheid_op_zijn_plaats() {
+    vscrSnelHeid.Left = picSnelheid.Width - vscrSnelHeid.Width - 60;
+    txtSnelHeid.Left = vscrSnelHeid.Left - 30 - txtSnelHeid.Width;
+    lblSnelHeid.Left = txtSnelHeid.Left - 30 - lblSnelHeid.Width;
+    picSnelheid.Move(cmdStart.Left - picSnelheid.Width - kTussenruimte, cmdStart.Top);
+}
+
+void frmTavrin02::Form_Activate() {
+    Foutpad("frmTavrin02 - Form - Activate", [&] { cmdStart.SetFocus(); });
+}
+
+void frmTavrin02::Form_KeyUp(int key_code) {
+    Foutpad("frmTavrin02 - Form - KeyUp", [&] {
+        if (key_code == forms::kKeyEscape) Form_QueryUnload();
+    });
+}
+
+void frmTavrin02::Form_QueryUnload() {
+    Foutpad("frmTavrin02 - Form - QueryUnload", [&] {
+        timSpeelKaart.Enabled = false;
+        programma.schermen.toon("frmTavrin01");
+        Unload();
+    });
+}
+
+void frmTavrin02::cmdStart_Click() {
+    Foutpad("frmTavrin02 - cmdStart - Click", [&] {
+        txtInformatie.BorderStyle = 0;
+        cmdStart.Visible = false;
+        txtVraag.Text = "";
+        txtVraag.Visible = false;
+        fraSlagen.Move(fraBieding.Left, fraBieding.bottom() + kTussenruimte);
+        fraSlagen.Visible = true;
+        txtInformatie.Width = txtVraag.Width();
+        txtInformatie.Move(txtVraag.Left, hand(2)(13).bottom() + kTussenruimte);
+        Kaarten::PlaatdeUitkomst(*this);
+        Kaarten::ToonKaartenDummy(*this);
+        Kaarten::ToonKaartenLeider(*this);
+        timSpeelKaart.Interval = gedeeld.speelSnelheid;
+        if (!cmdVerder.Visible) timSpeelKaart.Enabled = true;
+    });
+}
+
+void frmTavrin02::cmdVerder_Click() {
+    Foutpad("frmTavrin02 - cmdVerder - Click", [&] {
+        txtInformatie.BorderStyle = 0;
+        cmdVerder.Visible = false;
+        lstKnipTekst.Clear();
+        txtKnipTekst.Text = "";
+        txtInformatie.Text = "";
+        picBack.Refresh();
+        const Tik tik = timSpeelKaart_Timer();
+        if (tik == Tik::Verder && !cmdVerder.Visible) timSpeelKaart.Enabled = true;
+    });
+}
+
+frmTavrin02::Tik frmTavrin02::timSpeelKaart_Timer() {
+    Tik tik = Tik::Gestopt;
+    Foutpad("frmTavrin02 - timSPeelKaart - Timer", [&] {
+        try {
+            gedeeld.kaartTeller += 1;
+            gedeeld.aanDeBeurt += 1;
+            if (gedeeld.aanDeBeurt > 4) gedeeld.aanDeBeurt = 1;
+            if (gedeeld.kaartenInSlag > 3) nieuwe_slag();
+            Kaarten::PlaatsKaart(*this);
+            if (gedeeld.kaartTeller < kKaarten) {
+                tik = Tik::Verder;
+            } else {
+                spel_is_uit();
+            }
+        } catch (...) {
+            timSpeelKaart.Enabled = false;  // a broken deal doesn't report the same failure at each tick
+            throw;
+        }
+    });
+    return tik;
+}
+
+void frmTavrin02::nieuwe_slag() {
+    gedeeld.kaartenInSlag = 0;
+    for (int plaats = 1; plaats <= 4; ++plaats) {
+        picPlay(plaats).Picture = forms::Picture{};
+        picPlay(plaats).BorderStyle = 1;
+        picPlay(plaats).AccessibleName = "";
+    }
+    gedeeld.slagRij += 1;
+    gedeeld.delen = split(lstAfTavrin.List(gedeeld.slagRij), "|");
+    // Who leads this trick won the one before.
+    const int uitkomer = numeric_value(left(gedeeld.delen[0], 1));
+    forms::Label* teller = nullptr;
+    if (uitkomer == 1 || uitkomer == 3) teller = &lblSlagenNZ;
+    if (uitkomer == 2 || uitkomer == 4) teller = &lblSlagenOW;
+    if (teller) {
+        teller->Caption = std::to_string(numeric_value(teller->Caption()) + 1);
+        teller->Refresh();
+    }
+    if (gedeeld.slagRij >= kSlagen) {
+        for (int plaats = 1; plaats <= 4; ++plaats) picPlay(plaats).Visible = false;
+        txtVraag.Text = "";
+        txtVraag.Visible = false;
+        open_alle_handen();
+    } else {
+        gedeeld.aanDeBeurt = uitkomer;
+    }
+}
+
+void frmTavrin02::spel_is_uit() {
+    timSpeelKaart.Enabled = false;
+    cmdVerder.Visible = false;
+    // No row names the winner of the last trick, and the comparison finds nothing in these lists: it goes to
+    // Noord-Zuid in every deal. That is meant.
+    lstKlaar.Clear();
+    lstAnderKleur.Clear();
+    for (int i = 0; i < 4; ++i) lstAnderKleur.AddItem(" ");
+    lblSlagenNZ.Caption = std::to_string(numeric_value(lblSlagenNZ.Caption()) + 1);
+    lblSlagenNZ.Refresh();
+    for (int plaats = 1; plaats <= 4; ++plaats) {
+        picPlay(plaats).Picture = forms::Picture{};
+        picPlay(plaats).AccessibleName = "";
+    }
+    txtVraag.Text = "";
+    txtVraag.Visible = false;
+    open_alle_handen();
+}
+
+void frmTavrin02::open_alle_handen() {
+    Kaarten::NoordZijnKaarten(*this);
+    Kaarten::OostZijnKaarten(*this);
+    Kaarten::ZuidZijnKaarten(*this);
+    Kaarten::WestZijnKaarten(*this);
+}
+
+void frmTavrin02::vscrSnelHeid_Change() {
+    Foutpad("frmTavrin02 - vscrSnelHeid - Change", [&] {
+        if (bezigMetLaden) return;
+        const int laatste = lstSnelheid.ListCount() - 1;
+        // Setting the value runs this routine again, for the value that then stands.
+        if (vscrSnelHeid.Value < 0) vscrSnelHeid.Value = laatste;
+        if (vscrSnelHeid.Value > laatste) vscrSnelHeid.Value = 0;
+        txtSnelHeid.Text = lstSnelheid.List(vscrSnelHeid.Value);
+        Bas_Aftavrin::SchrijfINI(programma, "Standaard", "Snelheid", txtSnelHeid.Text(), programma.instellingen());
+        gedeeld.speelSnelheid = numeric_value(txtSnelHeid.Text());
+        timSpeelKaart.Interval = gedeeld.speelSnelheid;
+    });
+}

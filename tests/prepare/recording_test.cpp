@@ -1,0 +1,404 @@
+// Recording a deal by clicks, saving it, and taking it up again.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "forms/Control.h"
+#include "support/Bridge.h"
+
+namespace {
+
+using bridge::Card;
+using bridge::Deal;
+using bridge::Trick;
+
+constexpr const char* kWhite = "0xFFFFFF";
+constexpr const char* kBlue = "0xFFC0C0";
+constexpr const char* kGreen = "0x00FF00";
+
+class Recording : public testing::Test {
+protected:
+    Recording() { program.install_companion(); }
+
+    void open(const Deal& opened) {
+        deal = opened;
+        deal.write(program, "Spel 012");
+        program("start\nclick frmTavrin01.cmdNieuwSpel\nselect frmTavrin03.lstRVLX 0");
+    }
+    std::string get(const std::string& name) { return program.get("frmTavrin03." + name); }
+    std::string cell(int row, int col) {
+        return get("msfgTavrin[" + std::to_string(row) + "," + std::to_string(col) + "].Text");
+    }
+    std::string colour(int seat, const Card& card) { return program.get(deal.label(seat, card) + ".BackColor"); }
+    void click(int seat, const Card& card) { program("click " + deal.label(seat, card)); }
+    std::string last_box() {
+        const auto& boxes = program.interpreter.platform.boxes;
+        return boxes.empty() ? "" : boxes.back().text;
+    }
+
+    // Plays tricks from one card on, in order; the first trick's lead lies there already.
+    void play(std::size_t first_trick, std::size_t end_trick) {
+        for (std::size_t t = first_trick; t < end_trick; ++t) {
+            for (int step = t == 0 ? 1 : 0; step < 4; ++step) {
+                const int seat = (deal.play[t].leader + step) % 4;
+                click(seat, deal.play[t].cards[seat]);
+            }
+        }
+    }
+    // How many of the first tricks a side has won, by the judge.
+    std::string won(std::size_t tricks, int side) {
+        int count = 0;
+        for (std::size_t t = 0; t < tricks; ++t) count += deal.play[t].winner(deal.trump) % 2 == side ? 1 : 0;
+        return std::to_string(count);
+    }
+    void expect_tricks(std::size_t tricks) {
+        EXPECT_EQ(get("lblSlagenTellerNZ.Caption"), won(tricks, 0));
+        EXPECT_EQ(get("lblSlagenTellerOW.Caption"), won(tricks, 1));
+    }
+    std::string expected_rows() const {
+        std::string rows;
+        for (const Trick& trick : deal.play) rows += Deal::row(trick) + "\r\n";
+        return rows;
+    }
+
+    Program program;
+    Deal deal;
+};
+
+struct WholeDeal {
+    unsigned seed;
+    int leader;
+    int trump;  // -1 for none
+};
+
+class WholeDeals : public Recording, public testing::WithParamInterface<WholeDeal> {};
+
+TEST_P(WholeDeals, AreRecordedSavedTakenUpAgainAndReplayed) {
+    const auto [seed, leader, trump] = GetParam();
+    open(Deal::recordable(seed, leader, trump < 0 ? std::nullopt : std::optional(trump)));
+    const auto companion_before = program.tree("RVLX");
+    for (std::size_t t = 0; t < 13; ++t) {
+        play(t, t + 1);
+        if (t < 12) {
+            const std::string seat = std::to_string(deal.play[t].winner(deal.trump) + 1);
+            EXPECT_EQ(get("msfgTavrin[" + std::to_string(t + 2) + "," + seat + "].CellBackColor"), kBlue);
+        }
+        expect_tricks(t + 1);
+    }
+    EXPECT_EQ(last_box(), "Klik op de knop Opslaan om uw spel op te slaan.");
+    program("click frmTavrin03.cmdOpslaan");
+    EXPECT_EQ(get("cmdOpslaan.Enabled"), "false");
+    const std::string stem = "aftavrin/QVT_Spel 012/QVT_Spel 012";
+    EXPECT_EQ(program.read(stem + " aftavrin.txt"), expected_rows());
+    EXPECT_EQ(program.read(stem + " informatie.txt").size(), 27664U);
+    EXPECT_EQ(program.read(stem + " handen.txt"), program.read("RVLX/Spellen/Spel 012/Spel 012 handen.txt"));
+    EXPECT_EQ(program.tree("RVLX"), companion_before);
+
+    program("select frmTavrin03.lstAfTavrin 0");
+    for (int row = 1; row <= 13; ++row) {
+        for (int col = 1; col <= 4; ++col) EXPECT_EQ(cell(row, col), deal.play[row - 1].cards[col - 1].in_grid());
+    }
+    EXPECT_EQ(get("cmdOpslaan.Enabled"), "true");
+    EXPECT_EQ(std::stoi(get("lblSlagenTellerNZ.Caption")) + std::stoi(get("lblSlagenTellerOW.Caption")), 13);
+
+    program("key frmTavrin03 escape\nselect frmTavrin01.lstSpellen 0\nclick frmTavrin01.cmdTavrin");
+    program("click frmTavrin02.cmdStart\nwait 60000");
+    EXPECT_EQ(program.shared("kaartTeller"), "52");
+    for (int seat = 0; seat < 4; ++seat) {
+        const std::string list = "frmTavrin02.lstHand(" + std::to_string(seat + 1) + ").ListCount";
+        EXPECT_EQ(program.get(list), "13");
+    }
+    // The table counts the last trick for Noord-Zuid, whoever won it.
+    EXPECT_EQ(program.get("frmTavrin02.lblSlagenOW.Caption"), won(12, 1));
+}
+
+INSTANTIATE_TEST_SUITE_P(Deals, WholeDeals,
+                         testing::Values(WholeDeal{1, 0, 0}, WholeDeal{2, 1, 1}, WholeDeal{3, 2, 2}, WholeDeal{4, 3, 3},
+                                         WholeDeal{5, 3, -1}, WholeDeal{6, 1, 0}, WholeDeal{7, 2, -1},
+                                         WholeDeal{8, 0, 1}));
+
+TEST_F(Recording, CompanionDealStandsReadyAfterItsLead) {
+    open(Deal::random(1, 3, 1));
+    const Card lead = deal.play[0].cards[3];
+    EXPECT_EQ(cell(1, 4), lead.in_grid());
+    EXPECT_EQ(get("msfgTavrin[1,4].CellBackColor"), kBlue);
+    EXPECT_EQ(colour(3, lead), kBlue);
+    EXPECT_EQ(get("lstKlaar.Tag"), "N");
+    EXPECT_EQ(get("lblContract.Caption"), "Zuid 4 Harten");
+    EXPECT_EQ(get("lblUitkomstWind.Caption"), "West - ");
+    EXPECT_EQ(get("txtVraag.Text"), "Hoe speelt u dit?\\r\\n\\r\\n");
+    EXPECT_EQ(get("cmdOpslaan.Enabled"), "false");
+    EXPECT_EQ(get("fraBieding.Height"), std::to_string(3030 - 8 * 260));
+    click(3, lead);
+    EXPECT_EQ(last_box(), "U kunt de uitkomst niet verwijderen.");
+}
+
+TEST_F(Recording, WrongSeatAndRevokeAreRefusedInWords) {
+    open(Deal::random(1, 3, 1));
+    const Card lead = deal.play[0].cards[3];
+    click(1, deal.hands[1][0]);
+    if (deal.hands[1][0].suit == 1) {
+        EXPECT_EQ(last_box(), "U kunt de uitkomst niet verwijderen.");
+    } else {
+        EXPECT_EQ(last_box(), "Wel de juiste volgorde aanhouden.\nGa verder met Noord!");
+    }
+    for (const Card& card : deal.hands[0]) {
+        if (card.suit == lead.suit || card.suit == 1) continue;
+        click(0, card);
+        EXPECT_EQ(last_box(), std::string("Je moet wel (") + bridge::kSuitNames[lead.suit] + " ) bekennen");
+        EXPECT_EQ(colour(0, card), kWhite);
+        break;
+    }
+    EXPECT_EQ(get("lstKlaar.Tag"), "N");
+}
+
+TEST_F(Recording, CardTakenBackLeavesTheTrickAndTheTurnToItsSeat) {
+    open(Deal::random(12, 3, 3));
+    for (int seat = 0; seat < 3; ++seat) {
+        const Card card = deal.play[0].cards[seat];
+        if (card.suit == 1) continue;  // taking back a heart is another story
+        click(seat, card);
+        click(seat, card);
+        EXPECT_EQ(colour(seat, card), kWhite);
+        EXPECT_EQ(cell(1, seat + 1), "");
+        EXPECT_EQ(get("lstKlaar.Tag"), std::string(1, "NOZW"[seat]));
+        click(seat, card);
+        EXPECT_EQ(colour(seat, card), seat == 2 ? kGreen : kBlue);
+    }
+}
+
+// A hand for each seat in one suit, so that the odd handlers can be reached at will: Noord leads the suit given.
+Deal deal_of_suits(const std::array<int, 4>& suit_of_seat, int leader) {
+    Deal deal;
+    deal.leader = leader;
+    for (int seat = 0; seat < 4; ++seat) {
+        for (int rank = 14; rank >= 2; --rank) deal.hands[seat].push_back({suit_of_seat[seat], rank});
+    }
+    std::mt19937 random(1);
+    deal.play = bridge::random_play(deal, random);
+    return deal;
+}
+
+TEST_F(Recording, HeartTakenBackStopsAllPlayAndAtZuidEmptiesWest) {
+    open(deal_of_suits({0, 3, 1, 2}, 0));
+    const auto top = [&](int seat) { return deal.hands[seat][0]; };
+    click(1, top(1));
+    click(2, top(2));
+    EXPECT_EQ(cell(1, 3), "H A");
+    click(2, top(2));
+    EXPECT_EQ(cell(1, 3), "H A") << "its own cell stays";
+    EXPECT_EQ(get("lstKlaar.Tag"), "H");
+    for (int seat = 0; seat < 4; ++seat) {
+        click(seat, deal.hands[seat][1]);
+        EXPECT_EQ(last_box(), std::string("Wel de juiste volgorde aanhouden.\nGa verder met ") + "NOZW"[seat] + "!");
+    }
+}
+
+TEST_F(Recording, FixedLeadRefusesEveryHeart) {
+    open(deal_of_suits({1, 0, 2, 3}, 3));
+    click(0, deal.hands[0][3]);
+    EXPECT_EQ(last_box(), "U kunt de uitkomst niet verwijderen.");
+    EXPECT_EQ(program.shared("UitkomstVast"), "true");
+}
+
+struct FreeDiscard {
+    const char* name;
+    int seat;
+    int suit;
+    bool free;
+};
+
+class ClubLed : public Recording, public testing::WithParamInterface<FreeDiscard> {};
+
+// Two cards may always be played on a club: a diamond by West, a spade by Oost.
+TEST_P(ClubLed, IsFollowedByAllButTwo) {
+    const FreeDiscard& tested = GetParam();
+    // The tested seat holds six clubs and seven cards of its suit, and sits behind the leader.
+    Deal made = deal_of_suits({0, 1, 2, 3}, 0);
+    const int leader = (tested.seat + 3) % 4;
+    std::array<std::vector<Card>, 4> hands;
+    std::vector<Card> rest;
+    for (const auto& hand : made.hands) {
+        for (const Card& card : hand) {
+            const bool own = (card.suit == 3 && card.rank < 8) || (card.suit == tested.suit && card.rank > 7);
+            (own ? hands[tested.seat] : rest).push_back(card);
+        }
+    }
+    hands[leader].push_back({3, 14});
+    std::erase(rest, Card{3, 14});
+    for (int seat = 0, at = 0; seat < 4; ++seat) {
+        while (hands[seat].size() < 13) hands[seat].push_back(rest[at++]);
+        std::ranges::sort(hands[seat], {}, [](const Card& c) { return c.suit * 20 - c.rank; });
+    }
+    made.hands = hands;
+    made.leader = leader;
+    made.play = {Trick{leader, {}}};
+    made.play[0].cards[leader] = {3, 14};
+    open(made);
+    click(tested.seat, {tested.suit, 14});
+    EXPECT_EQ(colour(tested.seat, {tested.suit, 14}), tested.free ? kBlue : kWhite);
+}
+
+INSTANTIATE_TEST_SUITE_P(Seats, ClubLed,
+                         testing::Values(FreeDiscard{"RuitenWest", 3, 2, true}, FreeDiscard{"SchoppenOost", 1, 0, true},
+                                         FreeDiscard{"RuitenOost", 1, 2, false}, FreeDiscard{"SchoppenWest", 3, 0, false},
+                                         FreeDiscard{"SchoppenZuid", 2, 0, false}),
+                         [](const auto& info) { return info.param.name; });
+
+TEST_F(Recording, GridClickTakesThePlayBackToATrick) {
+    open(Deal::recordable(21, 3, 0));
+    play(0, 13);
+    program("answer no\nclick frmTavrin03.msfgTavrin[5,2]");
+    EXPECT_EQ(get("msfgTavrin.Row"), "5");
+    EXPECT_EQ(cell(13, 4), deal.play[12].cards[3].in_grid());
+    for (const std::size_t row : {13U, 6U, 2U}) {
+        program("answer yes\nclick frmTavrin03.msfgTavrin[" + std::to_string(row) + ",1]");
+        expect_tricks(row - 1);
+        EXPECT_EQ(get("cmdOpslaan.Enabled"), "true");
+        for (std::size_t t = 0; t < 13; ++t) {
+            for (int seat = 0; seat < 4; ++seat) {
+                EXPECT_EQ(colour(seat, deal.play[t].cards[seat]), t + 1 < row ? kGreen : kWhite);
+                EXPECT_EQ(cell(static_cast<int>(t) + 1, seat + 1).empty(), t + 1 >= row);
+            }
+        }
+        EXPECT_EQ(get("lstKlaar.Tag"), std::string(1, "NOZW"[deal.play[row - 1].leader]));
+    }
+    play(1, 13);
+    program("click frmTavrin03.cmdOpslaan");
+    EXPECT_EQ(program.read("aftavrin/QVT_Spel 012/QVT_Spel 012 aftavrin.txt"), expected_rows());
+}
+
+TEST_F(Recording, GridClickOnRowOneReloadsACompanionDealAndEmptiesAPackage) {
+    open(Deal::recordable(22, 3, 2));
+    program("click frmTavrin03.msfgTavrin[1,1]");
+    EXPECT_TRUE(program.interpreter.platform.boxes.empty()) << "no card of Noord, no question";
+    play(0, 13);
+    program("click frmTavrin03.cmdOpslaan\nanswer yes\nclick frmTavrin03.msfgTavrin[1,3]");
+    EXPECT_EQ(cell(1, 4), deal.play[0].cards[3].in_grid());
+    EXPECT_EQ(cell(1, 1), "");
+    EXPECT_EQ(get("lblSlagenTellerNZ.Caption"), "0");
+    EXPECT_EQ(program.shared("UitkomstVast"), "true");
+
+    program("select frmTavrin03.lstAfTavrin 0\nanswer yes\nclick frmTavrin03.msfgTavrin[1,3]");
+    EXPECT_EQ(cell(2, 1), "");
+    EXPECT_EQ(get("msfgTavrin[1,4].CellBackColor"), kBlue);
+    EXPECT_EQ(get("lstKlaar.Tag"), "N");
+    EXPECT_EQ(colour(0, deal.play[0].cards[0]), kWhite);
+}
+
+TEST_F(Recording, OverwritingAsksFirstAndLosesTheCardTexts) {
+    open(Deal::recordable(23, 2, 2));
+    play(0, 13);
+    program("click frmTavrin03.cmdOpslaan\nselect frmTavrin03.lstAfTavrin 0");
+    const std::string stem = "aftavrin/QVT_Spel 012/QVT_Spel 012";
+    std::string records = program.read(stem + " informatie.txt");
+    records.replace(532, 8, "2|Tekst!");
+    program.write(stem + " informatie.txt", records + "tail");
+    const auto before = program.tree("aftavrin");
+    program("answer no\nclick frmTavrin03.cmdOpslaan");
+    EXPECT_EQ(program.tree("aftavrin"), before);
+    EXPECT_EQ(get("cmdOpslaan.Enabled"), "false");
+    EXPECT_EQ(last_box(), "Het bestand QVT_Spel 012 bestaat al!\n\nWilt u het bestand QVT_Spel 012 overschrijven?");
+
+    program("select frmTavrin03.lstAfTavrin 0\ntext frmTavrin03.txtVraag Anders?\nanswer yes\nclick frmTavrin03.cmdOpslaan");
+    EXPECT_EQ(program.read(stem + " informatie.txt").substr(532, 8), "2|      ");
+    EXPECT_EQ(program.read(stem + " informatie.txt").substr(27664), "tail");
+    EXPECT_EQ(program.read(stem + " vraag.txt"), "Anders?") << "under the spelling that is there";
+    EXPECT_EQ(program.read(stem + " antwoord.txt").substr(0, 17), "Hoe speelt u dit?") << "the question's lines stand in it";
+}
+
+struct BrokenDeal {
+    const char* name;
+    const char* file;
+    const char* bytes;  // null: the file is removed
+    const char* number;
+};
+
+class BrokenDeals : public Recording, public testing::WithParamInterface<BrokenDeal> {};
+
+TEST_P(BrokenDeals, EndInTheReport) {
+    deal = Deal::random(1, 3, 1);
+    deal.write(program, "Spel 012");
+    const std::string file = std::string("RVLX/Spellen/Spel 012/Spel 012") + GetParam().file;
+    if (GetParam().bytes) {
+        program.write(file, GetParam().bytes);
+    } else {
+        std::filesystem::remove(program.path(file));
+    }
+    program("start\nclick frmTavrin01.cmdNieuwSpel\nselect frmTavrin03.lstRVLX 0");
+    EXPECT_EQ(program.shared("foutPlaats"), "frmTavrin03 - General - LeesRVLXSpelIn");
+    EXPECT_EQ(program.shared("foutNummer"), GetParam().number);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, BrokenDeals,
+    testing::Values(BrokenDeal{"no_hands", " handen.txt", nullptr, "53"}, BrokenDeal{"no_lead", " Uitkomst.txt", nullptr, "53"},
+                    BrokenDeal{"no_answer", " antwoord.txt", nullptr, "53"},
+                    BrokenDeal{"short_hands", " handen.txt", "AHVB\r\n", "62"},
+                    BrokenDeal{"long_line", " handen.txt", "AHVBT987654321\r\n", "340"},
+                    BrokenDeal{"odd_seat", " Uitkomst.txt", "Best - 0Aas\r\n", "5"},
+                    BrokenDeal{"odd_digit", " Uitkomst.txt", "West - 7Aas\r\n", "5"},
+                    BrokenDeal{"no_dash", " Uitkomst.txt", "West\r\n", "9"}),
+    [](const auto& info) { return info.param.name; });
+
+TEST_F(Recording, IncompleteDealIsRefusedInWords) {
+    deal = Deal::random(1, 3, 1);
+    deal.write(program, "Spel 012");
+    program.write("RVLX/Spellen/Spel 012/Spel 012 Contract.txt", "");
+    program("start\nclick frmTavrin01.cmdNieuwSpel\nselect frmTavrin03.lstRVLX 0");
+    EXPECT_EQ(last_box(), "Spel 012is niet compleet\r\nKan het spel niet gebruiken");
+    EXPECT_EQ(get("fraBieding.Visible"), "true");
+}
+
+TEST_F(Recording, WithoutTheCompanionBothListsStayEmpty) {
+    write_package(program, Package::west_wins_all());
+    program.write("standaardtavrin.ini", "[Standaard]\r\nchkSorteerRVLX=1\r\nLaatsteRVLX=Spel 007\r\n");
+    std::filesystem::remove_all(program.path("RVLX"));
+    program.interpreter.programma.windows.dispatch([] {});
+    program("start");
+    program.programma.windows.dispatch([&] { program.programma.schermen.toon("frmTavrin03"); });
+    EXPECT_EQ(get("lstAfTavrin.ListCount"), "0");
+    EXPECT_EQ(get("chkSorteerRVLX.Caption"), "Sorteer &laag-hoog");
+    EXPECT_EQ(get("lblLaatste.Caption"), "");
+}
+
+TEST_F(Recording, LastDealAndSortChoicesComeBack) {
+    for (const char* name : {"Spel 1", "Spel 10", "Spel 2"}) Deal::random(1, 3, 1).write(program, name);
+    program.write("standaardtavrin.ini", "[Standaard]\r\nchkSorteerRVLX=1\r\nLaatsteRVLX=Spel 2\r\n");
+    program("start\nclick frmTavrin01.cmdNieuwSpel");
+    EXPECT_EQ(get("lstRVLX[0].Text"), "Spel 2");
+    EXPECT_EQ(get("lstRVLX[2].Text"), "Spel 1");
+    EXPECT_EQ(get("lblLaatste.Caption"), "Laatst gebruikte spel: 2");
+    program("click frmTavrin03.chkSorteerRVLX");
+    EXPECT_EQ(get("lstRVLX[1].Text"), "Spel 10");
+    EXPECT_NE(program.read("standaardtavrin.ini").find("chkSorteerRVLX=0"), std::string::npos);
+}
+
+TEST_F(Recording, DamagedPackagesShowWhatTheyHoldOrAreReported) {
+    Package package = Package::west_wins_all();
+    package.rows[1] = "x341|0|2239|2252|2213";
+    write_package(program, package);
+    program.write("aftavrin/QVT_Spel 012/QVT_Spel 012 aftavrin.txt", package.rows[0] + "\r\n\r\n" + package.rows[1] + "\r\n");
+    program("start\nclick frmTavrin01.cmdNieuwSpel\nselect frmTavrin03.lstAfTavrin 0");
+    EXPECT_EQ(program.shared("foutPlaats"), "frmTavrin03 - General - LeesSpelIn") << "it has no hands";
+    EXPECT_EQ(cell(2, 1), "S -2199");
+    EXPECT_EQ(get("msfgTavrin[2,0].CellBackColor"), kBlue);
+    EXPECT_EQ(get("lstVoorWissen.ListCount"), "3");
+}
+
+TEST_F(Recording, DumpFileBringsAnyState) {
+    std::string dump;
+    for (int line = 0; line < 16; ++line) dump += line == 0 ? "1A|0H||0V|\r\n" : "\r\n";
+    dump += "0R 5|1S A|0S 2|0S 3|\r\n0K 2|0K 3|1K 4|0K 5|\r\n";
+    program.write("test.txt", dump);
+    program("start\nclick frmTavrin01.cmdNieuwSpel");
+    program.programma.windows.dispatch([&] { program.programma.windows.find("frmTavrin03")->control("cmdOphalen").Click(); });
+    EXPECT_EQ(get("lblSchoppenNoord(0).BackColor"), kGreen);
+    EXPECT_EQ(get("lblSchoppenNoord(1).Caption"), "H");
+    EXPECT_EQ(get("lblSchoppenNoord(2).Visible"), "false");
+    EXPECT_EQ(cell(1, 2), "S A");
+    EXPECT_EQ(get("msfgTavrin[2,3].CellBackColor"), kBlue);
+    EXPECT_EQ(get("lblSlagenTellerNZ.Caption"), "1");
+}
+
+}  // namespace
