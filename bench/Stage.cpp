@@ -38,32 +38,34 @@ fs::path new_folder() {
     return mkdtemp(name.data());
 }
 
-// Copies of a deal's folder under other numbers.
-void multiply(const fs::path& folder, const std::string& deal, const std::string& stem, int count) {
+// Folders of deals under other numbers, with copies of a deal's files or empty.
+void multiply(const fs::path& folder, const std::string& deal, int count, bool with_files) {
     for (int number = 1; number <= count; ++number) {
-        const std::string name = stem + std::to_string(10000 + number);
+        const std::string name = deal.substr(0, deal.size() - 3) + std::to_string(10000 + number);
         fs::create_directory(folder / name);
+        if (!with_files) continue;
         for (const auto& file : fs::directory_iterator(folder / deal)) {
             fs::copy(file.path(), folder / name / replaced(file.path().filename().string(), deal, name));
         }
     }
 }
 
-fs::path make_folder_with(const std::string& samples, int packages, int companion_deals) {
+}  // namespace
+
+fs::path make_program_folder(const std::string& samples, const FolderContents& contents) {
     fs::path folder = new_folder();
     fs::copy(samples, folder, fs::copy_options::recursive);
     std::FILE* settings = std::fopen((folder / "standaardtavrin.ini").c_str(), "wb");
     std::fputs("[Platform]\r\nProgramFiles=.\r\nServer=127.0.0.1:9\r\n", settings);
     std::fclose(settings);
-    multiply(folder / "aftavrin", "QVT_Spel 001", "QVT_Spel ", packages);
-    multiply(folder / "RVLX" / "Spellen", "Spel 001", "Spel ", companion_deals);
+    multiply(folder / "aftavrin", "QVT_Spel 001", contents.packages, true);
+    multiply(folder / "aftavrin", "QVT_Spel 001", contents.empty_packages, false);
+    multiply(folder / "RVLX" / "Spellen", "Spel 001", contents.empty_deals, false);
     return folder;
 }
 
-}  // namespace
-
-Stage::Stage(const std::string& samples, int packages, int companion_deals)
-    : folder_(make_folder_with(samples, packages, companion_deals)),
+Stage::Stage(const fs::path& folder)
+    : folder_(folder),
       platform(host, path_text(folder_)),
       programma(platform, host) {
     host.attach(programma.windows);
@@ -75,6 +77,10 @@ Stage::~Stage() {
     host.close_all();
     std::error_code ignored;
     fs::remove_all(folder_, ignored);
+}
+
+void Stage::let_cards_be_prepared() {
+    while (preparer.isActive()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
 }
 
 void Stage::paint() {

@@ -3,19 +3,32 @@
 #include <filesystem>
 #include <string>
 
+#include "desktop/CardPreparer.h"
 #include "desktop/QtHost.h"
 #include "desktop/QtPlatform.h"
 #include "services/Programma.h"
 
 namespace bench {
 
-// The real program in real windows, on a folder of its own that goes with it.
+// What a program folder holds beside the sample deals: packages, with their files or as empty folders, which a list
+// tells no different, and empty folders of companion deals.
+struct FolderContents {
+    int packages = 0;
+    int empty_packages = 0;
+    int empty_deals = 0;
+};
+
+// Makes a program folder in the system's temporary folder.
+std::filesystem::path make_program_folder(const std::string& samples, const FolderContents& contents);
+
+// The real program in real windows, on a folder that goes with it.
 class Stage {
 public:
-    // The sample deals, and as many further copies of a package and of a companion's deal.
-    Stage(const std::string& samples, int packages, int companion_deals);
+    explicit Stage(const std::filesystem::path& folder);
     ~Stage();
 
+    // Waits until the cards are rendered that the program prepares while a user looks at the main screen.
+    void let_cards_be_prepared();
     // Lets the windows be drawn: returns when the active form's window was painted and nothing waits to be.
     void paint();
     // Milliseconds from the start of the action until it is painted.
@@ -39,6 +52,7 @@ public:
     desktop::QtHost host;
     desktop::QtPlatform platform;
     Programma programma;
+    desktop::CardPreparer preparer{host};
 };
 
 }  // namespace bench

@@ -56,7 +56,8 @@ double median_of(int times, const std::function<double()>& measure) {
 }
 
 void measure_table(Report& report) {
-    Stage stage(kSamples, 0, 0);
+    Stage stage(make_program_folder(kSamples, {}));
+    stage.let_cards_be_prepared();
     std::vector<double> opened;
     std::vector<double> ticks;
     for (int round = 0; round < 25; ++round) {
@@ -81,7 +82,7 @@ void measure_table(Report& report) {
 }
 
 void measure_timer(Report& report) {
-    Stage stage(kSamples, 0, 0);
+    Stage stage(make_program_folder(kSamples, {}));
     const fs::path texts = stage.folder() / "aftavrin/QVT_Spel 001/QVT_Spel 001 informatie.txt";
     fs::remove(texts);
     std::vector<double> off;
@@ -109,7 +110,7 @@ void measure_timer(Report& report) {
 void measure_lists(Report& report) {
     constexpr int kPackages = 10000;
     constexpr int kDeals = 1000;
-    Stage stage(kSamples, kPackages, kDeals);
+    Stage stage(make_program_folder(kSamples, {.empty_packages = kPackages, .empty_deals = kDeals}));
     const auto packages = [&] { return time_of([&] { scan(stage.folder() / "aftavrin"); }); };
     const auto deals = [&] { return time_of([&] { scan(stage.folder() / "RVLX/Spellen"); }); };
     const double scan_packages = median_of(9, packages);
@@ -128,7 +129,7 @@ void measure_lists(Report& report) {
 }
 
 void measure_preparation(Report& report) {
-    Stage stage(kSamples, 0, 0);
+    Stage stage(make_program_folder(kSamples, {}));
     stage.click("frmTavrin01", "cmdNieuwSpel");
     stage.paint();
     auto& deals = stage.control<forms::ListBox>("frmTavrin03", "lstRVLX");
@@ -148,7 +149,7 @@ void measure_preparation(Report& report) {
 }
 
 void measure_editor(Report& report) {
-    Stage stage(kSamples, 0, 0);
+    Stage stage(make_program_folder(kSamples, {}));
     stage.click("frmTavrin01", "cmdKaartenEditor");
     stage.paint();
     auto& deals = stage.control<forms::ListBox>("frmTavrin05", "lstSpellen");
@@ -174,7 +175,7 @@ void measure_editor(Report& report) {
 }
 
 // A child of this program that shows a window, tells when it is painted, and then how much memory it took at most.
-int run_child(const QString& what) {
+int run_child(const QString& what, const QString& folder) {
     set_up_look();
     if (what == QStringLiteral("empty")) {
         QWidget window;
@@ -187,7 +188,7 @@ int run_child(const QString& what) {
         std::cout << "painted\n" << peak_memory() << std::endl;
         return 0;
     }
-    Stage stage(kSamples, 0, 0);
+    Stage stage(folder.toStdString());
     std::cout << "painted\n" << peak_memory() << std::endl;
     return 0;
 }
@@ -199,14 +200,16 @@ struct ChildFigures {
 
 ChildFigures child(const QString& what) {
     QProcess process;
+    const QString folder = QString::fromStdString(make_program_folder(kSamples, {}).string());
     ChildFigures figures{};
     const auto begin = Clock::now();
-    process.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--child"), what});
+    process.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--child"), what, folder});
     process.waitForReadyRead(20000);
     figures.start = milliseconds_since(begin);
     process.waitForFinished(20000);
     const QList<QByteArray> lines = process.readAllStandardOutput().split('\n');
     figures.memory = lines.size() > 1 ? lines[1].toDouble() : 0;
+    fs::remove_all(folder.toStdString());
     return figures;
 }
 
@@ -256,7 +259,7 @@ private:
 
 void measure_exchange(Report& report, const fs::path& stick) {
     constexpr int kPackages = 1000;
-    Stage stage(kSamples, kPackages, 0);
+    Stage stage(make_program_folder(kSamples, {.packages = kPackages}));
     StickPlatform platform(stage.folder().string(), stick.string());
     Programma programma(platform, stage.host);
     stage.host.attach(programma.windows);
@@ -292,7 +295,7 @@ void measure_exchange(Report& report, const fs::path& stick) {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     const QStringList words = QApplication::arguments();
-    if (words.size() == 3 && words[1] == QStringLiteral("--child")) return run_child(words[2]);
+    if (words.size() == 4 && words[1] == QStringLiteral("--child")) return run_child(words[2], words[3]);
     if (words.size() != 2) {
         std::cerr << "usage: zandolin_bench FILE\n";
         return 2;

@@ -70,9 +70,78 @@ for _ in $(seq 4); do
     sleep 2
 done
 picture table-text
-for _ in $(seq 12); do
+for _ in $(seq 8); do
     key alt+v
-    sleep 1.5
+    sleep 1.6
 done
 picture table-end
 key Escape
+
+# A deal is recorded: two tricks, and the beginning of the third.
+# card LEFT TOP SUIT NUMBER: a card label in the frame of a seat that stands there; suits count from 0, cards too.
+card() {
+    click $(($1 + 420 + 315 * $4)) $(($2 + 300 + 300 * $3)) 315 300
+}
+at "Zandolin Lomert"
+click 1740 4530 1845 435
+at "Maak een spel uit RVLX gereed om te tavrin"
+line 210 450 0
+card 5580 120 2 3
+card 7980 1890 2 2
+card 5580 3660 2 1
+card 2970 1890 2 1
+card 5580 120 2 2
+card 7980 1890 2 1
+card 5580 3660 2 0
+card 2970 1890 1 1
+card 5580 120 1 2
+whole_window preparation
+key Escape
+
+# Texts on the cards of a package.
+at "Zandolin Lomert"
+click 3645 4530 1545 435
+at "Editor"
+line 240 480 0
+click 8595 750 450 450
+sleep 0.3
+whole_window editor
+click 10080 5880 1665 525
+whole_window editor-preview
+click 14370 5910 1665 525
+click 12510 5880 1485 525
+at "Spel 1"
+whole_window overview
+xdotool windowsize --sync "$current" 740 610
+sleep 0.5
+whole_window overview-large
+key Escape
+at "Editor"
+key Escape
+
+# Deals get other numbers, and go to a stick.
+at "Zandolin Lomert"
+line 3750 420 1
+click 3645 4020 1545 435
+at "Herbenoem"
+whole_window rename
+key Escape
+at "Zandolin Lomert"
+click 1710 4020 1875 435
+sleep 1
+xdotool key Return
+at "Import/Export"
+line 240 420 0
+line 240 420 2
+whole_window exchange
+key Escape
+
+# A deal that is damaged ends in the report.
+rm "$folder/aftavrin/QVT_Spel 003/QVT_Spel 003 aftavrin.txt"
+at "Zandolin Lomert"
+line 3750 420 2
+click 5280 4530 1545 435
+at "Zandolin"
+key alt+s
+at "Fout in het programma"
+whole_window report

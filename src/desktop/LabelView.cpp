@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 
 #include "base/Text.h"
 #include "desktop/Surface.h"
@@ -87,16 +88,29 @@ LabelView::LabelView(FormWindow& window, forms::Label& label, QWidget* parent)
     widget_.Clicked = [this] { user_did([this] { forms::user::click(label_); }); };
 }
 
+double LabelView::shown_width(const std::string& line) const {
+    const double zoom = scale().zoom();
+    const double width = core_width(line, label_, zoom);
+    const double room = label_.Width / forms::kTwipsPerPixel * zoom;
+    return width > room && width * kNarrowest <= room ? room : width;
+}
+
+QRect LabelView::place() const {
+    QRect place = View::place();
+    if (label_.Opaque() || label_.BorderStyle() != 0 || label_.Alignment() != forms::Alignment::Left) return place;
+    for (const std::string& line : label_lines(label_)) {
+        place.setWidth(std::max(place.width(), static_cast<int>(std::ceil(shown_width(line)))));
+    }
+    return place;
+}
+
 void LabelView::show_state() {
     widget_.set_look(label_.Opaque() ? colour(label_.BackColor) : QColor(), label_.BorderStyle() != 0);
     const double zoom = scale().zoom();
     const QFont font = screen_font(label_, zoom);
-    const double room = label_.Width / forms::kTwipsPerPixel * zoom;
     LabelWidget::Content content;
     for (const std::string& line : label_lines(label_)) {
-        double width = core_width(line, label_, zoom);
-        if (width > room && width * kNarrowest <= room) width = room;
-        content.lines.push_back({to_qt(line), fitted_to(font, to_qt(without_mark(line)), width)});
+        content.lines.push_back({to_qt(line), fitted_to(font, to_qt(without_mark(line)), shown_width(line))});
     }
     content.line_height = forms::line_height(core_font(label_)) / forms::kTwipsPerPixel * zoom;
     const int sides = label_.Alignment() == forms::Alignment::Right    ? Qt::AlignRight

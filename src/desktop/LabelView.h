@@ -13,6 +13,9 @@ public:
 
 private:
     void show_state() override;
+    // A label that starts at the left and has no ground of its own is as wide as its text needs.
+    QRect place() const override;
+    double shown_width(const std::string& line) const;
 
     forms::Label& label_;
     LabelWidget& widget_;

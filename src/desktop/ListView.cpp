@@ -39,8 +39,12 @@ void ListView::show_selection() {
     if (widget_.currentIndex() != current) selection.setCurrentIndex(current, QItemSelectionModel::NoUpdate);
     if (list_.MultiSelect) {
         QItemSelection selected;
+        // Lines that follow each other are one range: the model gets slow with many.
         for (int line = 0; line < list_.ListCount(); ++line) {
-            if (list_.Selected(line)) selected.select(model_->index(line, 0), model_->index(line, 0));
+            if (!list_.Selected(line)) continue;
+            const int first = line;
+            while (line + 1 < list_.ListCount() && list_.Selected(line + 1)) ++line;
+            selected.select(model_->index(first, 0), model_->index(line, 0));
         }
         selection.select(selected, QItemSelectionModel::ClearAndSelect);
     } else if (current.isValid()) {

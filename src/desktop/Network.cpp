@@ -15,7 +15,6 @@ namespace desktop {
 
 namespace {
 
-constexpr int kTimeout = 5000;  // milliseconds
 constexpr int kStatusOk = 200;
 
 bool interface_is_up() {
@@ -46,7 +45,7 @@ bool Network::download(const std::string& url, const std::string& path) {
 
     if (!manager_) manager_ = std::make_unique<QNetworkAccessManager>();
     QNetworkRequest request(address);
-    request.setTransferTimeout(kTimeout);
+    request.setTransferTimeout(static_cast<int>(patience_.count()));
     request.setHeader(QNetworkRequest::UserAgentHeader, QStringLiteral("Zandolin Lomert"));
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
     const std::unique_ptr<QNetworkReply> reply(manager_->get(request));

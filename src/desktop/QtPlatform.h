@@ -13,7 +13,7 @@ namespace desktop {
 class QtHost;
 
 // The operating system by way of Qt.
-class QtPlatform final : public Platform {
+class QtPlatform : public Platform {
 public:
     // An empty folder stands for the folder of the executable.
     QtPlatform(QtHost& host, const std::string& program_folder);

@@ -17,6 +17,8 @@ View::View(FormWindow& window, forms::Control& control, QWidget* widget)
 
 const Scale& View::scale() const { return window_.host().scale(); }
 
+QRect View::place() const { return scale().rect(control_); }
+
 QFont View::font() const { return screen_font(control_, scale().zoom()); }
 
 void View::refresh() {
@@ -27,8 +29,8 @@ void View::refresh() {
 }
 
 void View::show_common() {
-    const QRect place = scale().rect(control_);
-    if (widget_->geometry() != place) widget_->setGeometry(place);
+    const QRect wanted_place = place();
+    if (widget_->geometry() != wanted_place) widget_->setGeometry(wanted_place);
     const QFont wanted = font();
     if (widget_->font() != wanted || !widget_->testAttribute(Qt::WA_SetFont)) widget_->setFont(wanted);
     if (!control_.AccessibleName().empty()) widget_->setAccessibleName(to_qt(control_.AccessibleName()));

@@ -30,6 +30,8 @@ protected:
     // What the kind of control adds to place, visibility, font and colours.
     virtual void show_state() = 0;
     virtual QFont font() const;
+    // Where the widget stands: as a rule the control's own place.
+    virtual QRect place() const;
 
     FormWindow& window() const { return window_; }
     const Scale& scale() const;

@@ -83,6 +83,9 @@ void write_all(File file, std::string_view bytes, const fs::path& path, bool flu
     if (std::fclose(file.release()) != 0) fail_with_errno(path);
 }
 
+// A name, and in front of it what it is sorted by.
+using SortedName = std::pair<std::string, std::string>;
+
 struct CloseFolder {
     void operator()(DIR* folder) const { closedir(folder); }
 };
@@ -102,22 +105,20 @@ std::vector<std::string> names_in(std::string_view folder, fs::file_type kind) {
     if (!open && (errno == ENOENT || errno == ENOTDIR)) throw Fout(FoutNummer::PathNotFound, std::string(folder));
     if (!open) fail_with_errno(found);
 
-    struct Entry {
-        std::string key;
-        std::string name;
-        auto operator<=>(const Entry&) const = default;
-    };
-    std::vector<Entry> entries;
+    std::vector<SortedName> entries;
     while (const dirent* entry = readdir(open.get())) {
         const std::string_view name = static_cast<const char*>(entry->d_name);
         if (name == "." || name == ".." || !is_of_kind(found, *entry, kind)) continue;
         std::string text = from_utf8(name);
-        entries.push_back({lower_case(text), std::move(text)});
+        std::string key = lower_case(text);
+        entries.emplace_back(std::move(key), std::move(text));
     }
-    std::ranges::sort(entries);
+    std::vector<SortedName*> in_order;
+    for (SortedName& entry : entries) in_order.push_back(&entry);
+    std::ranges::sort(in_order, [](const SortedName* one, const SortedName* other) { return *one < *other; });
     std::vector<std::string> names;
     names.reserve(entries.size());
-    for (Entry& entry : entries) names.push_back(std::move(entry.name));
+    for (SortedName* entry : in_order) names.push_back(std::move(entry->second));
     return names;
 }
 

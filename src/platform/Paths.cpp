@@ -1,5 +1,8 @@
 #include "platform/Paths.h"
 
+#include <dirent.h>
+
+#include <memory>
 #include <system_error>
 
 #include "base/Text.h"
@@ -19,14 +22,26 @@ bool there(const fs::path& path) {
     return fs::exists(fs::symlink_status(path, ignored));
 }
 
+struct CloseFolder {
+    void operator()(DIR* folder) const { closedir(folder); }
+};
+
+// The first entry whose name is equal without regard to case; an empty path for none.
 fs::path entry_of(const fs::path& folder, const fs::path& name) {
     const std::string wanted = path_text(name);
-    std::error_code error;
-    for (fs::directory_iterator entry(folder.empty() ? fs::path(".") : folder, error), end; !error && entry != end;
-         entry.increment(error)) {
-        if (equal_ignoring_case(path_text(entry->path().filename()), wanted)) return folder / entry->path().filename();
+    const std::unique_ptr<DIR, CloseFolder> open(opendir(folder.empty() ? "." : folder.c_str()));
+    while (const dirent* entry = open ? readdir(open.get()) : nullptr) {
+        const char* spelled = static_cast<const char*>(entry->d_name);
+        if (equal_ignoring_case(from_utf8(spelled), wanted)) return folder / spelled;
     }
     return {};
+}
+
+fs::path find(const fs::path& exact) {
+    if (there(exact) || !exact.has_relative_path()) return exact;
+    const fs::path folder = find(exact.parent_path());
+    const fs::path spelled_otherwise = entry_of(folder, exact.filename());
+    return spelled_otherwise.empty() ? folder / exact.filename() : spelled_otherwise;
 }
 
 }  // namespace
@@ -42,19 +57,4 @@ std::string path_text(const fs::path& path) {
     return from_utf8(std::string(utf8.begin(), utf8.end()));
 }
 
-fs::path find_case_blind(std::string_view path) {
-    const fs::path exact = native(path);
-    if (there(exact)) return exact;
-    fs::path found;
-    bool lost = false;
-    for (const fs::path& part : exact) {
-        fs::path next = found / part;
-        if (!lost && !there(next)) {
-            const fs::path spelled_otherwise = entry_of(found, part);
-            lost = spelled_otherwise.empty();
-            if (!lost) next = spelled_otherwise;
-        }
-        found = next;
-    }
-    return found;
-}
+fs::path find_case_blind(std::string_view path) { return find(native(path)); }

@@ -14,6 +14,7 @@ void frmTavrin03::klik_kaart(const prepare::Klik& klik, int index) {
         const bool in_slag = label.BackColor == kInSlag;
         if (gedeeld.uitkomstVast && (in_slag || klik.eerst_vast)) {
             programma.platform.message_box(box_style::kInformation, LeesResString(10001), LeesResString(10106));
+            cmdFocus.SetFocus();
             return;
         }
         if (in_slag) {
@@ -33,7 +34,8 @@ void frmTavrin03::klik_kaart(const prepare::Klik& klik, int index) {
         MoetBekennen = kleur.has_value();
         if (MoetBekennen) {
             const std::string woord = LeesResString(kaart::gegevens(*kleur).woord);
-            programma.platform.message_box(box_style::kInformation, Caption(), replaced(LeesResString(10031), "~", woord));
+            programma.platform.message_box(box_style::kInformation, Caption(),
+                                           replaced(LeesResString(10031), "~", woord));
             cmdFocus.SetFocus();
             return;
         }

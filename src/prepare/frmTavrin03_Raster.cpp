@@ -92,6 +92,7 @@ void frmTavrin03::terug_naar_uitkomst_van_rvlx() {
     lstRVLX.ListIndex = Bas_Aftavrin::GetListBoxIndex(programma, lstRVLX, spel, true);
     lblSlagenTellerNZ.Caption = "0";
     lblSlagenTellerOW.Caption = "0";
+    cmdFocus.SetFocus();
 }
 
 // GevraagdeKleur and uitkomstVast stay as they stood: here the lead may be taken back, unlike right after a load.
@@ -131,4 +132,5 @@ void frmTavrin03::terug_naar_uitkomst_van_pakket() {
     }
     lblSlagenTellerNZ.Caption = "0";
     lblSlagenTellerOW.Caption = "0";
+    cmdFocus.SetFocus();
 }

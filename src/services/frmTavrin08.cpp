@@ -21,14 +21,8 @@ frmTavrin08::frmTavrin08(Programma& programma) : Scherm(programma, "frmTavrin08"
     picShow.Picture = picSurprice(0).Picture();
     picShow.Opaque = false;
     timPic.Interval = kEersteTik;
-    for (auto* labels : {&lblWatWaar, &lblFoutInfo}) {
-        labels->each([](forms::Label& label) {
-            label.FontSize = 9;
-            label.AutoSize = true;
-        });
-    }
-    // Small enough to end before the values beside them.
-    for (const int i : {0, 1, 2}) lblWatWaar(i).FontSize = 6.75;
+    for (const int i : {3, 4, 5}) lblWatWaar(i).AutoSize = true;
+    lblFoutInfo.each([](forms::Label& label) { label.AutoSize = true; });
     lblWatWaar(4).FontBold = true;
 
     timPic.Tick = [this] { timPic_Timer(); };

@@ -41,5 +41,10 @@ BiedingPaneel::BiedingPaneel(forms::Container& parent, const forms::Rect& place,
       lblA(for_seats<forms::Label>(fraBieding, "lblA", kolommen, kTekenNaast, 105, 195)) {
     lblBieding.each([](forms::Label& label) { label.FontBold = true; });
     for (const auto& [ronde, label] : lblNum) label->Caption = std::to_string(ronde + 1) + ":";
-    for (auto& pictures : picB) pictures.each([](forms::PictureBox& picture) { picture.Opaque = false; });
+    for (auto& pictures : picB) {
+        pictures.each([](forms::PictureBox& picture) {
+            picture.Opaque = false;
+            picture.Stretch = true;  // the letters of no trump are larger than a suit symbol
+        });
+    }
 }

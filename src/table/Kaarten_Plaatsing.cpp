@@ -119,11 +119,11 @@ void toon_contract(frmTavrin02& tafel) {
     const std::string soort = lower_case(gedeeld.delen[2]);
     for (const kaart::Kleur kleur : kaart::kKleuren) {
         if (soort != kaart::gegevens(kleur).naam) continue;
-        tafel.picContract.Picture = Bas_Aftavrin::LaadPlaatje(kaart::gegevens(kleur).plaatje);
+        frmTavrin02::toon_symbool(tafel.picContract, kaart::gegevens(kleur).plaatje);
         gedeeld.troefLetter = tafel.LeesResString(kaart::gegevens(kleur).letter);
     }
     if (soort == "sa") {
-        tafel.picContract.Picture = Bas_Aftavrin::LaadPlaatje(kaart::kPlaatjeSansAtout);
+        frmTavrin02::toon_symbool(tafel.picContract, kaart::kPlaatjeSansAtout);
         gedeeld.troefLetter.clear();
     }
     tafel.lblInfo(0).Move(tafel.lblSpel.right() - tafel.lblInfo(0).Width, tafel.lblNummer.bottom() + 256);
@@ -141,7 +141,7 @@ void toon_uitkomst(frmTavrin02& tafel) {
     const std::string& kaart = gedeeld.delen[1];
     if (!kaart.empty() && kaart[0] >= '0' && kaart[0] <= '3') {
         const auto kleur = static_cast<kaart::Kleur>(kaart[0] - '0');
-        tafel.picUitkomst.Picture = Bas_Aftavrin::LaadPlaatje(kaart::gegevens(kleur).plaatje);
+        frmTavrin02::toon_symbool(tafel.picUitkomst, kaart::gegevens(kleur).plaatje);
     }
     tafel.lblInfo(1).Move(tafel.lblInfo(0).right() - tafel.lblInfo(1).Width, tafel.lblInfo(0).bottom() + 128);
     zet_rechts_naast(tafel.lblUitkomstWind, tafel.lblInfo(1), 32, tafel.lblInfo(1).Top - 16);

@@ -1,6 +1,7 @@
 #include "table/frmTavrin02.h"
 
 #include "cards/Kaarten.h"
+#include "resources/PictureTable.h"
 #include "services/Bas_Aftavrin.h"
 #include "table/Kaarten.h"
 
@@ -92,6 +93,7 @@ void frmTavrin02::stel_uiterlijk_in() {
         doos->BackColor = kPapier;
         doos->Visible = false;
     }
+    for (auto& symbolen : picGespeeld) symbolen.each([](forms::PictureBox& symbool) { symbool.Opaque = false; });
     for (const auto& [plaats, symbool] : picSym) {
         symbool->Picture = Bas_Aftavrin::LaadPlaatje(kaart::gegevens(static_cast<kaart::Kleur>(plaats - 1)).plaatje);
         symbool->Visible = false;
@@ -134,6 +136,13 @@ void frmTavrin02::stel_uiterlijk_in() {
     txtSnelHeid.FontSize = 9.75;
     lblSnelHeid.FontSize = 9.75;
     lblSnelHeid.AutoSize = true;
+}
+
+void frmTavrin02::toon_symbool(forms::PictureBox& plek, int plaatje) {
+    plek.Picture = Bas_Aftavrin::LaadPlaatje(plaatje);
+    const resources::Size size = resources::picture_size(plaatje);
+    plek.Width = size.width * forms::kTwipsPerPixel;
+    plek.Height = size.height * forms::kTwipsPerPixel;
 }
 
 void frmTavrin02::toon_kaart(forms::PictureBox& plek, int kaartcode) {

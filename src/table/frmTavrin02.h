@@ -91,6 +91,8 @@ public:
     }
     forms::ControlArray<forms::PictureBox>& hand(int plaats) { return van_plaats(picKaart, plaats); }
 
+    // Shows a suit symbol, or the letters of no trump, in a box of its size.
+    static void toon_symbool(forms::PictureBox& plek, int plaatje);
     // Puts a card's picture, which also says the card to a screen reader, into a place.
     static void toon_kaart(forms::PictureBox& plek, int kaartcode);
 

@@ -4,6 +4,8 @@
 #include <algorithm>
 
 #include "forms/Control.h"
+#include "platform/CodePage.h"
+#include "script/Names.h"
 #include "support/Bridge.h"
 
 namespace {
@@ -48,7 +50,8 @@ protected:
     // How many of the first tricks a side has won, by the judge.
     std::string won(std::size_t tricks, int side) {
         int count = 0;
-        for (std::size_t t = 0; t < tricks; ++t) count += deal.play[t].winner(deal.trump) % 2 == side ? 1 : 0;
+        for (std::size_t t = 0; t < tricks; ++t)
+            count += deal.play[t].winner(deal.trump) % 2 == side ? 1 : 0;
         return std::to_string(count);
     }
     void expect_tricks(std::size_t tricks) {
@@ -57,7 +60,8 @@ protected:
     }
     std::string expected_rows() const {
         std::string rows;
-        for (const Trick& trick : deal.play) rows += Deal::row(trick) + "\r\n";
+        for (const Trick& trick : deal.play)
+            rows += Deal::row(trick) + "\r\n";
         return rows;
     }
 
@@ -96,7 +100,8 @@ TEST_P(WholeDeals, AreRecordedSavedTakenUpAgainAndReplayed) {
 
     program("select frmTavrin03.lstAfTavrin 0");
     for (int row = 1; row <= 13; ++row) {
-        for (int col = 1; col <= 4; ++col) EXPECT_EQ(cell(row, col), deal.play[row - 1].cards[col - 1].in_grid());
+        for (int col = 1; col <= 4; ++col)
+            EXPECT_EQ(cell(row, col), deal.play[row - 1].cards[col - 1].in_grid());
     }
     EXPECT_EQ(get("cmdOpslaan.Enabled"), "true");
     EXPECT_EQ(std::stoi(get("lblSlagenTellerNZ.Caption")) + std::stoi(get("lblSlagenTellerOW.Caption")), 13);
@@ -172,7 +177,8 @@ Deal deal_of_suits(const std::array<int, 4>& suit_of_seat, int leader) {
     Deal deal;
     deal.leader = leader;
     for (int seat = 0; seat < 4; ++seat) {
-        for (int rank = 14; rank >= 2; --rank) deal.hands[seat].push_back({suit_of_seat[seat], rank});
+        for (int rank = 14; rank >= 2; --rank)
+            deal.hands[seat].push_back({suit_of_seat[seat], rank});
     }
     std::mt19937 random(1);
     deal.play = bridge::random_play(deal, random);
@@ -192,6 +198,66 @@ TEST_F(Recording, HeartTakenBackStopsAllPlayAndAtZuidEmptiesWest) {
         click(seat, deal.hands[seat][1]);
         EXPECT_EQ(last_box(), std::string("Wel de juiste volgorde aanhouden.\nGa verder met ") + "NOZW"[seat] + "!");
     }
+}
+
+// Each card as the third to the first trick: played, and taken back.
+TEST_F(Recording, EveryHandlerTakesItsCardBackInItsOwnWay) {
+    constexpr int kHearts = 1;
+    constexpr int kZuid = 2;
+    for (int suit = 0; suit < 4; ++suit) {
+        for (int seat = 0; seat < 4; ++seat) {
+            // No heart among the two cards before: the lead is fixed until then.
+            std::array<int, 4> suits{};
+            suits[seat] = suit;
+            suits[(seat + 1) % 4] = suit == kHearts ? 0 : kHearts;
+            for (int rest = 0, at = 2; rest < 4; ++rest) {
+                if (rest != suit && rest != suits[(seat + 1) % 4]) suits[(seat + at++) % 4] = rest;
+            }
+            Program fresh;
+            fresh.install_companion();
+            deal = deal_of_suits(suits, (seat + 2) % 4);
+            deal.write(fresh, "Spel 012");
+            fresh("start\nclick frmTavrin01.cmdNieuwSpel\nselect frmTavrin03.lstRVLX 0");
+            const int before = (seat + 3) % 4;
+            fresh("click " + deal.label(before, deal.hands[before][0]));
+            const Card card = deal.hands[seat][4];
+            const std::string label = deal.label(seat, card);
+            const std::string cell = "frmTavrin03.msfgTavrin[1," + std::to_string(seat + 1) + "].Text";
+            SCOPED_TRACE(label);
+            fresh("click " + label);
+            EXPECT_EQ(fresh.get(label + ".BackColor"), kBlue);
+            EXPECT_EQ(fresh.get(cell), card.in_grid());
+            EXPECT_EQ(fresh.get("frmTavrin03.lstKlaar.Tag"), std::string(1, "NOZW"[(seat + 1) % 4]));
+            fresh("click " + label);
+            EXPECT_EQ(fresh.get(label + ".BackColor"), kWhite);
+            EXPECT_EQ(fresh.get(cell), suit == kHearts && seat == kZuid ? card.in_grid() : "");
+            EXPECT_EQ(fresh.get("frmTavrin03.lstKlaar.Tag"), std::string(1, suit == kHearts ? 'H' : "NOZW"[seat]));
+            EXPECT_EQ(fresh("boxes"), ".");
+        }
+    }
+}
+
+TEST_F(Recording, HeartOfZuidTakenBackEmptiesTheCellOfWest) {
+    open(deal_of_suits({0, 3, 1, 2}, 2));
+    click(3, deal.hands[3][0]);
+    EXPECT_EQ(cell(1, 4), "R A");
+    click(2, deal.play[0].cards[2]);
+    EXPECT_EQ(cell(1, 4), "");
+    EXPECT_EQ(cell(1, 3), deal.play[0].cards[2].in_grid());
+    EXPECT_EQ(colour(3, deal.hands[3][0]), kBlue);
+}
+
+TEST_F(Recording, NextCardAfterOneTakenBackCountsAsTheLead) {
+    open(deal_of_suits({0, 3, 1, 2}, 0));
+    const auto low = [&](int seat) { return deal.hands[seat][12]; };
+    click(1, low(1));
+    click(1, low(1));
+    click(1, low(1));
+    click(2, low(2));
+    click(3, low(3));
+    EXPECT_EQ(get("msfgTavrin[2,2].CellBackColor"), kBlue) << "Oost wins with a club on Noord's spade";
+    EXPECT_EQ(get("lstKlaar.Tag"), "O");
+    EXPECT_EQ(get("lblSlagenTellerOW.Caption"), "1");
 }
 
 TEST_F(Recording, FixedLeadRefusesEveryHeart) {
@@ -227,7 +293,8 @@ TEST_P(ClubLed, IsFollowedByAllButTwo) {
     hands[leader].push_back({3, 14});
     std::erase(rest, Card{3, 14});
     for (int seat = 0, at = 0; seat < 4; ++seat) {
-        while (hands[seat].size() < 13) hands[seat].push_back(rest[at++]);
+        while (hands[seat].size() < 13)
+            hands[seat].push_back(rest[at++]);
         std::ranges::sort(hands[seat], {}, [](const Card& c) { return c.suit * 20 - c.rank; });
     }
     made.hands = hands;
@@ -241,7 +308,8 @@ TEST_P(ClubLed, IsFollowedByAllButTwo) {
 
 INSTANTIATE_TEST_SUITE_P(Seats, ClubLed,
                          testing::Values(FreeDiscard{"RuitenWest", 3, 2, true}, FreeDiscard{"SchoppenOost", 1, 0, true},
-                                         FreeDiscard{"RuitenOost", 1, 2, false}, FreeDiscard{"SchoppenWest", 3, 0, false},
+                                         FreeDiscard{"RuitenOost", 1, 2, false},
+                                         FreeDiscard{"SchoppenWest", 3, 0, false},
                                          FreeDiscard{"SchoppenZuid", 2, 0, false}),
                          [](const auto& info) { return info.param.name; });
 
@@ -300,12 +368,175 @@ TEST_F(Recording, OverwritingAsksFirstAndLosesTheCardTexts) {
     EXPECT_EQ(get("cmdOpslaan.Enabled"), "false");
     EXPECT_EQ(last_box(), "Het bestand QVT_Spel 012 bestaat al!\n\nWilt u het bestand QVT_Spel 012 overschrijven?");
 
-    program("select frmTavrin03.lstAfTavrin 0\ntext frmTavrin03.txtVraag Anders?\nanswer yes\nclick frmTavrin03.cmdOpslaan");
+    program(
+        "select frmTavrin03.lstAfTavrin 0\ntext frmTavrin03.txtVraag Anders?\nanswer yes\nclick "
+        "frmTavrin03.cmdOpslaan");
     EXPECT_EQ(program.read(stem + " informatie.txt").substr(532, 8), "2|      ");
     EXPECT_EQ(program.read(stem + " informatie.txt").substr(27664), "tail");
     EXPECT_EQ(program.read(stem + " vraag.txt"), "Anders?") << "under the spelling that is there";
-    EXPECT_EQ(program.read(stem + " antwoord.txt").substr(0, 17), "Hoe speelt u dit?") << "the question's lines stand in it";
+    EXPECT_EQ(program.read(stem + " antwoord.txt").substr(0, 17), "Hoe speelt u dit?")
+        << "the question's lines stand in it";
 }
+
+// Whatever the user was at, a refusal and a click in the grid take the focus away from it.
+TEST_F(Recording, FocusGoesOutOfSightAfterEveryRefusalAndGridClick) {
+    open(Deal::recordable(22, 3, 2));
+    const auto expect_focus_gone = [&](const std::string& action) {
+        program("text frmTavrin03.txtVraag Anders?");
+        EXPECT_EQ(get("ActiveControl"), "txtVraag");
+        program(action);
+        EXPECT_EQ(get("ActiveControl"), "cmdFocus") << action;
+    };
+    expect_focus_gone("click " + deal.label(3, deal.play[0].cards[3]));
+    expect_focus_gone("click " + deal.label(2, deal.play[0].cards[2]));
+    expect_focus_gone("click frmTavrin03.msfgTavrin[1,1]");
+    play(0, 13);
+    for (const char* answer : {"no", "yes"}) {
+        expect_focus_gone(std::string("answer ") + answer + "\nclick frmTavrin03.msfgTavrin[5,1]");
+    }
+    play(4, 13);
+    program("click frmTavrin03.cmdOpslaan");
+    expect_focus_gone("answer yes\nclick frmTavrin03.msfgTavrin[1,1]");
+    program("select frmTavrin03.lstAfTavrin 0");
+    expect_focus_gone("answer yes\nclick frmTavrin03.msfgTavrin[1,1]");
+}
+
+// Question and answer as they stand in their boxes are what is stored, and storing them again goes on from there: a
+// long line is broken for good, every reading adds a line break, and the answer takes in the question.
+TEST_F(Recording, OverwritingStoresTheTextsAsTheBoxesShowThem) {
+    deal = Deal::recordable(23, 2, 2);
+    deal.write(program, "Spel 012");
+    const std::string companion = "RVLX/Spellen/Spel 012/Spel 012";
+    const std::string words = "Dit is een vraag die zo lang is dat zij nooit op een regel van de doos past, één keer";
+    program.write(companion + " vraag.txt", "\r\nKort.\r\n" + from_utf8(words) + "\r\n");
+    program.write(companion + " antwoord.txt", "\r\nMet beleid.\r\n");
+    program("start\nclick frmTavrin01.cmdNieuwSpel\nselect frmTavrin03.lstRVLX 0");
+    play(0, 13);
+    program("click frmTavrin03.cmdOpslaan");
+
+    const std::string stem = "aftavrin/QVT_Spel 012/QVT_Spel 012";
+    const auto others = [&] { return program.read(stem + " handen.txt") + program.read(stem + " aftavrin.txt"); };
+    const std::string others_before = others();
+    const std::string shown =
+        "Kort.\r\nDit is een vraag die zo lang is dat zij nooit op een regel van de\r\ndoos past, " + from_utf8("één") +
+        " keer\r\n";
+    const struct {
+        std::string question;
+        std::string answer;
+    } rounds[] = {
+        {shown + "\r\n", shown + "\r\n\r\nMet beleid.\r\n\r\n"},
+        {shown + "\r\n\r\n", shown + "\r\n\r\n" + shown + "\r\n\r\nMet beleid.\r\n\r\n\r\n"},
+    };
+    for (const auto& round : rounds) {
+        program("select frmTavrin03.lstAfTavrin 0");
+        EXPECT_EQ(script::unescaped(from_utf8(get("txtVraag.Text"))), round.question);
+        EXPECT_EQ(script::unescaped(from_utf8(get("txtAntwoord.Text"))), round.answer);
+        program("answer yes\nclick frmTavrin03.cmdOpslaan");
+        EXPECT_EQ(program.read(stem + " vraag.txt"), round.question);
+        EXPECT_EQ(program.read(stem + " antwoord.txt"), round.answer);
+        EXPECT_EQ(others(), others_before);
+    }
+    EXPECT_EQ(program.shared("foutNummer"), "0");
+}
+
+// What a list shows may be gone at the click.
+TEST_F(Recording, DealThatVanishedFromUnderItsListIsRefusedInWords) {
+    open(Deal::recordable(23, 2, 2));
+    play(0, 13);
+    program("click frmTavrin03.cmdOpslaan\nselect frmTavrin03.lstAfTavrin 0\nboxes");
+    std::filesystem::remove_all(program.path("RVLX/Spellen/Spel 012"));
+    std::filesystem::remove_all(program.path("aftavrin/QVT_Spel 012"));
+    const std::string box = "64\tMaak een spel uit RVLX gereed om te tavrin\t";
+    const std::string refused = box + "QVT_Spel 012 is niet compleet\\nKan het spel niet gebruiken\tok\n";
+    program("select frmTavrin03.lstAfTavrin 0");
+    EXPECT_EQ(program("boxes"), refused + refused + ".") << "for the contract, and for the play";
+    EXPECT_EQ(cell(1, 1), "");
+    EXPECT_EQ(get("lstAfTavrin.Tag"), "0");
+    EXPECT_EQ(get("cmdOpslaan.Enabled"), "true") << "as it was";
+    program("select frmTavrin03.lstRVLX 0");
+    EXPECT_EQ(program("boxes"), box + "Spel 012is niet compleet\\r\\nKan het spel niet gebruiken\tok\n.");
+    EXPECT_EQ(get("cmdOpslaan.Enabled"), "false");
+    EXPECT_EQ(program.shared("foutNummer"), "0");
+}
+
+TEST_F(Recording, PackageThatLostItsPlayKeepsItsHandsOnView) {
+    open(Deal::recordable(23, 2, 2));
+    play(0, 13);
+    program("click frmTavrin03.cmdOpslaan");
+    std::filesystem::remove(program.path("aftavrin/QVT_Spel 012/QVT_Spel 012 aftavrin.txt"));
+    program("boxes\nselect frmTavrin03.lstAfTavrin 0");
+    EXPECT_EQ(last_box(), "QVT_Spel 012 is niet compleet\nKan het spel niet gebruiken");
+    EXPECT_EQ(get("cmdOpslaan.Enabled"), "false");
+    EXPECT_EQ(get("lblContract.Caption"), "Oost 4 Ruiten");
+    EXPECT_EQ(colour(2, deal.play[0].cards[2]), "0x80FF80") << "the lead, in a hand that nothing was played from";
+    EXPECT_EQ(program.shared("UitkomstVast"), "true");
+}
+
+TEST_F(Recording, PackageOfMoreThanThirteenTricksIsReported) {
+    open(Deal::recordable(23, 2, 2));
+    play(0, 13);
+    program("click frmTavrin03.cmdOpslaan");
+    const std::string file = "aftavrin/QVT_Spel 012/QVT_Spel 012 aftavrin.txt";
+    program.write(file, program.read(file) + "1234|2201|2202|2203|2204\r\n");
+    program("select frmTavrin03.lstAfTavrin 0");
+    EXPECT_EQ(program.shared("foutPlaats"), "frmTavrin03 - lstAftavrin - Click") << "in that spelling";
+    EXPECT_EQ(program.shared("foutNummer"), "30009");
+    EXPECT_EQ(cell(13, 4), deal.play[12].cards[3].in_grid());
+    EXPECT_EQ(get("cmdOpslaan.Enabled"), "false");
+}
+
+struct FailedSave {
+    const char* name;
+    void (*damage)(Program&);
+    const char* number;
+    std::vector<std::string> left;  // in the package's folder
+};
+
+class FailedSaves : public Recording, public testing::WithParamInterface<FailedSave> {};
+
+// The save stops where it fails, and what was written stays.
+TEST_P(FailedSaves, StopWhereTheyFail) {
+    open(Deal::recordable(23, 2, 2));
+    play(0, 13);
+    GetParam().damage(program);
+    program("click frmTavrin03.cmdOpslaan");
+    EXPECT_EQ(program.shared("foutPlaats"), "frmTavrin03 - cmdOpslaan - Click");
+    EXPECT_EQ(program.shared("foutNummer"), GetParam().number);
+    EXPECT_EQ(get("cmdOpslaan.Enabled"), "false");
+    std::vector<std::string> left;
+    const std::filesystem::path folder = program.path("aftavrin/QVT_Spel 012");
+    if (std::filesystem::is_directory(folder)) {
+        for (const auto& entry : std::filesystem::directory_iterator(folder))
+            left.push_back(entry.path().filename().string());
+    }
+    std::ranges::sort(left);
+    EXPECT_EQ(left, GetParam().left);
+    EXPECT_NE(program.read("standaardtavrin.ini").find("LaatsteRVLX=Spel 012"), std::string::npos);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Saves, FailedSaves,
+    testing::Values(
+        FailedSave{"deal_gone",
+                   [](Program& program) { std::filesystem::remove_all(program.path("RVLX/Spellen/Spel 012")); },
+                   "76",
+                   {"QVT_Spel 012 aftavrin.txt", "QVT_Spel 012 informatie.txt"}},
+        FailedSave{
+            "file_for_folder", [](Program& program) { program.write("aftavrin/QVT_Spel 012", "file"); }, "76", {}},
+        FailedSave{"folder_for_texts",
+                   [](Program& program) { program.write("aftavrin/QVT_Spel 012/QVT_Spel 012 informatie.txt/x", ""); },
+                   "75",
+                   {"QVT_Spel 012 informatie.txt"}},
+        FailedSave{"folder_for_play",
+                   [](Program& program) { program.write("aftavrin/QVT_Spel 012/QVT_Spel 012 aftavrin.txt/x", ""); },
+                   "75",
+                   {"QVT_Spel 012 aftavrin.txt", "QVT_Spel 012 informatie.txt"}},
+        FailedSave{"folder_for_copy",
+                   [](Program& program) { program.write("aftavrin/QVT_Spel 012/QVT_Spel 012 bieding.txt/x", ""); },
+                   "75",
+                   {"QVT_Spel 012 aftavrin.txt", "QVT_Spel 012 antwoord.txt", "QVT_Spel 012 bieding.txt",
+                    "QVT_Spel 012 informatie.txt"}}),
+    [](const auto& info) { return info.param.name; });
 
 struct BrokenDeal {
     const char* name;
@@ -330,16 +561,16 @@ TEST_P(BrokenDeals, EndInTheReport) {
     EXPECT_EQ(program.shared("foutNummer"), GetParam().number);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Files, BrokenDeals,
-    testing::Values(BrokenDeal{"no_hands", " handen.txt", nullptr, "53"}, BrokenDeal{"no_lead", " Uitkomst.txt", nullptr, "53"},
-                    BrokenDeal{"no_answer", " antwoord.txt", nullptr, "53"},
-                    BrokenDeal{"short_hands", " handen.txt", "AHVB\r\n", "62"},
-                    BrokenDeal{"long_line", " handen.txt", "AHVBT987654321\r\n", "340"},
-                    BrokenDeal{"odd_seat", " Uitkomst.txt", "Best - 0Aas\r\n", "5"},
-                    BrokenDeal{"odd_digit", " Uitkomst.txt", "West - 7Aas\r\n", "5"},
-                    BrokenDeal{"no_dash", " Uitkomst.txt", "West\r\n", "9"}),
-    [](const auto& info) { return info.param.name; });
+INSTANTIATE_TEST_SUITE_P(Files, BrokenDeals,
+                         testing::Values(BrokenDeal{"no_hands", " handen.txt", nullptr, "53"},
+                                         BrokenDeal{"no_lead", " Uitkomst.txt", nullptr, "53"},
+                                         BrokenDeal{"no_answer", " antwoord.txt", nullptr, "53"},
+                                         BrokenDeal{"short_hands", " handen.txt", "AHVB\r\n", "62"},
+                                         BrokenDeal{"long_line", " handen.txt", "AHVBT987654321\r\n", "340"},
+                                         BrokenDeal{"odd_seat", " Uitkomst.txt", "Best - 0Aas\r\n", "5"},
+                                         BrokenDeal{"odd_digit", " Uitkomst.txt", "West - 7Aas\r\n", "5"},
+                                         BrokenDeal{"no_dash", " Uitkomst.txt", "West\r\n", "9"}),
+                         [](const auto& info) { return info.param.name; });
 
 TEST_F(Recording, IncompleteDealIsRefusedInWords) {
     deal = Deal::random(1, 3, 1);
@@ -363,7 +594,8 @@ TEST_F(Recording, WithoutTheCompanionBothListsStayEmpty) {
 }
 
 TEST_F(Recording, LastDealAndSortChoicesComeBack) {
-    for (const char* name : {"Spel 1", "Spel 10", "Spel 2"}) Deal::random(1, 3, 1).write(program, name);
+    for (const char* name : {"Spel 1", "Spel 10", "Spel 2"})
+        Deal::random(1, 3, 1).write(program, name);
     program.write("standaardtavrin.ini", "[Standaard]\r\nchkSorteerRVLX=1\r\nLaatsteRVLX=Spel 2\r\n");
     program("start\nclick frmTavrin01.cmdNieuwSpel");
     EXPECT_EQ(get("lstRVLX[0].Text"), "Spel 2");
@@ -378,7 +610,8 @@ TEST_F(Recording, DamagedPackagesShowWhatTheyHoldOrAreReported) {
     Package package = Package::west_wins_all();
     package.rows[1] = "x341|0|2239|2252|2213";
     write_package(program, package);
-    program.write("aftavrin/QVT_Spel 012/QVT_Spel 012 aftavrin.txt", package.rows[0] + "\r\n\r\n" + package.rows[1] + "\r\n");
+    program.write("aftavrin/QVT_Spel 012/QVT_Spel 012 aftavrin.txt",
+                  package.rows[0] + "\r\n\r\n" + package.rows[1] + "\r\n");
     program("start\nclick frmTavrin01.cmdNieuwSpel\nselect frmTavrin03.lstAfTavrin 0");
     EXPECT_EQ(program.shared("foutPlaats"), "frmTavrin03 - General - LeesSpelIn") << "it has no hands";
     EXPECT_EQ(cell(2, 1), "S -2199");
@@ -388,11 +621,13 @@ TEST_F(Recording, DamagedPackagesShowWhatTheyHoldOrAreReported) {
 
 TEST_F(Recording, DumpFileBringsAnyState) {
     std::string dump;
-    for (int line = 0; line < 16; ++line) dump += line == 0 ? "1A|0H||0V|\r\n" : "\r\n";
+    for (int line = 0; line < 16; ++line)
+        dump += line == 0 ? "1A|0H||0V|\r\n" : "\r\n";
     dump += "0R 5|1S A|0S 2|0S 3|\r\n0K 2|0K 3|1K 4|0K 5|\r\n";
     program.write("test.txt", dump);
     program("start\nclick frmTavrin01.cmdNieuwSpel");
-    program.programma.windows.dispatch([&] { program.programma.windows.find("frmTavrin03")->control("cmdOphalen").Click(); });
+    program.programma.windows.dispatch(
+        [&] { program.programma.windows.find("frmTavrin03")->control("cmdOphalen").Click(); });
     EXPECT_EQ(get("lblSchoppenNoord(0).BackColor"), kGreen);
     EXPECT_EQ(get("lblSchoppenNoord(1).Caption"), "H");
     EXPECT_EQ(get("lblSchoppenNoord(2).Visible"), "false");
