@@ -53,7 +53,8 @@ void frmTavrin05::picYesNo_Click(int index) {
 void frmTavrin05::txtInformatie_Change() {
     Foutpad("frmTavrin05 - txtInformatie - Change", [&] {
         const bool heeft_tekst = !trimmed(txtInformatie.Text()).empty();
-        for (forms::CommandButton* knop : {&cmdGebruiken, &cmdWissen, &cmdVoorBeeld}) knop->Enabled = heeft_tekst;
+        for (forms::CommandButton* knop : {&cmdGebruiken, &cmdWissen, &cmdVoorBeeld})
+            knop->Enabled = heeft_tekst;
     });
 }
 
@@ -97,13 +98,12 @@ void frmTavrin05::bewaar_tekst(const std::string& tekst, const std::string& map,
 
 void frmTavrin05::cmdVoorBeeld_Click() {
     Foutpad("frmTavrin05 - cmdVoorbeeld - Click", [&] {
-        for (forms::Frame* kader : {&fraKaartMetTekst, &fraSlag, &fraSpellen}) kader->Enabled = false;
+        for (forms::Frame* kader : {&fraKaartMetTekst, &fraSlag, &fraSpellen})
+            kader->Enabled = false;
         lstKnipTekst.Clear();
         txtKnipTekst.Text = txtInformatie.Text();
         Knip_Tekst(txtKnipTekst, lstKnipTekst);
-        std::string tekst;
-        for (int i = 0; i < lstKnipTekst.ListCount(); ++i) tekst += lstKnipTekst.List(i) + "\r\n";
-        txtVoorbeeld.Text = tekst;
+        txtVoorbeeld.Text = met_regeleinden(lstKnipTekst);
         frmVoorbeeld.Visible = true;
     });
 }
@@ -112,7 +112,8 @@ void frmTavrin05::cmdSluiten_Click() {
     Foutpad("frmTavrin05 - cmdSluiten - Click", [&] {
         frmVoorbeeld.Visible = false;
         txtInformatie.Text = txtVoorbeeld.Text();
-        for (forms::Frame* kader : {&fraKaartMetTekst, &fraSlag, &fraSpellen}) kader->Enabled = true;
+        for (forms::Frame* kader : {&fraKaartMetTekst, &fraSlag, &fraSpellen})
+            kader->Enabled = true;
     });
 }
 

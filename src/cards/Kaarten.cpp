@@ -50,11 +50,13 @@ void LeesKartenBestandIn(Scherm& scherm, HandLijsten& lijsten) {
 
 void VerdeelDeKaarten(Scherm& scherm, HandLijsten& lijsten) {
     scherm.Foutpad("Kaarten - General - VerdeelDeKaarten", [&] {
-        for (int plaats = 1; plaats <= 4; ++plaats) lijsten.lstHand(plaats).Clear();
+        for (int plaats = 1; plaats <= 4; ++plaats)
+            lijsten.lstHand(plaats).Clear();
         Pieces& delen = scherm.gedeeld.delen;
         for (int rij = 0; rij < lijsten.lstAfTavrin.ListCount(); ++rij) {
             delen = split(lijsten.lstAfTavrin.List(rij), "|");
-            for (int i = 1; i <= delen.last(); ++i) lijsten.lstHand(i).AddItem(delen[i]);
+            for (int i = 1; i <= delen.last(); ++i)
+                lijsten.lstHand(i).AddItem(delen[i]);
         }
         for (int plaats = 1; plaats <= 4; ++plaats) {
             forms::ListBox& hand = lijsten.lstHand(plaats);
@@ -75,7 +77,8 @@ void vul_met_mappen(forms::ListBox& lijst, forms::DirListBox& mappen, const std:
     mappen.Path = map;
     lijst.Clear();
     const int aantal = mappen.ListCount();
-    for (int i = 0; i < aantal; ++i) lijst.AddItem(last_part(mappen.List(volgorde == 1 ? aantal - 1 - i : i)));
+    for (int i = 0; i < aantal; ++i)
+        lijst.AddItem(mappen.List(volgorde == 1 ? aantal - 1 - i : i));
 }
 
 void WelkeKaartIsDit(Scherm& scherm, const std::string& kaartcode) {

@@ -84,8 +84,13 @@ void QtHost::flush() {
     }
 }
 
+// A long copy asks for it a thousand times; more often than the eye can follow it would only take time.
 void QtHost::repaint(forms::Form& form) {
+    constexpr int kShortest = 40;  // milliseconds between two of them
     windows_ = &form.windows();
+    if (repainted_ == &form && repainted_since_.isValid() && repainted_since_.elapsed() < kShortest) return;
+    repainted_ = &form;
+    repainted_since_.start();
     flush();
     FormWindow* shown = window(&form);
     if (!shown || !shown->isVisible()) return;
@@ -98,6 +103,7 @@ void QtHost::closing(forms::Form& form) {
     if (!gone) return;
     form_windows_.erase(&form);
     if (raised_ == gone) raised_ = nullptr;
+    if (repainted_ == &form) repainted_ = nullptr;
     gone->retire();
     retired_.push_back(gone);
 }

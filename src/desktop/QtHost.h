@@ -68,6 +68,8 @@ private:
     std::vector<FormWindow*> retired_;
     FormWindow* raised_ = nullptr;
     QElapsedTimer raised_since_;
+    const forms::Form* repainted_ = nullptr;  // the form that asked for it last
+    QElapsedTimer repainted_since_;
     bool within_event_ = false;
     mutable int title_height_;  // what the window manager adds above a window
 };

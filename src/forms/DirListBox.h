@@ -10,7 +10,8 @@ namespace forms {
 // Lists the subfolders of a folder. It is never shown.
 class DirListBox final : public Control {
 public:
-    DirListBox(Container& container, std::string name, const Rect& place = {}) : Control(container, std::move(name), place) {
+    DirListBox(Container& container, std::string name, const Rect& place = {})
+        : Control(container, std::move(name), place) {
         Visible = false;
     }
     const char* kind() const override { return "DirListBox"; }
@@ -20,7 +21,7 @@ public:
     void Refresh() { read(Path()); }
 
     int ListCount() const { return static_cast<int>(folders_.size()); }
-    // Full path of a subfolder, from 0 on, in ascending order without regard to case; another number is failure 9.
+    // Name of a subfolder, from 0 on, in ascending order without regard to case; another number is failure 9.
     const std::string& List(int index) const;
 
 private:

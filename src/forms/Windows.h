@@ -31,7 +31,7 @@ public:
 class FolderReader {
 public:
     virtual ~FolderReader() = default;
-    // Full paths in ascending order without regard to case. A folder that is not there is failure 76.
+    // Names in ascending order without regard to case. A folder that is not there is failure 76.
     virtual std::vector<std::string> subfolders(const std::string& folder) = 0;
     // Names of the files that are not hidden, in the same order; `pattern` is "*" or "*.ending".
     virtual std::vector<std::string> files(const std::string& folder, const std::string& pattern) = 0;
@@ -63,7 +63,7 @@ public:
 
     Form* find(const std::string& name) const;  // among the loaded forms; null if there is none
     bool show_pending(const Form& form) const;
-    std::vector<Form*> loaded() const;       // in the order of loading
+    std::vector<Form*> loaded() const;                            // in the order of loading
     std::vector<Form*> in_front_order() const { return order_; }  // the front one first, hidden ones too
     Form* active() const { return active_; }
     // The user brings a visible form in front.

@@ -141,8 +141,7 @@ void frmTavrin04::LeesAfTavrinSpellen() {
 void frmTavrin04::chkSorteerTavrin_Click() {
     Foutpad("frmTavrin04 - chkSorteerTavrin - Click", [&] {
         if (cmdFocus.Visible) cmdFocus.SetFocus();
-        Bas_Aftavrin::SchrijfINI(programma, "Standaard", "chkSorteerTavrin", std::to_string(chkSorteerTavrin.Value),
-                                 programma.instellingen());
+        bewaar_keuze(chkSorteerTavrin);
         LeesAfTavrinSpellen();
     });
 }

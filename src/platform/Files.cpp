@@ -114,11 +114,13 @@ std::vector<std::string> names_in(std::string_view folder, fs::file_type kind) {
         entries.emplace_back(std::move(key), std::move(text));
     }
     std::vector<SortedName*> in_order;
-    for (SortedName& entry : entries) in_order.push_back(&entry);
+    for (SortedName& entry : entries)
+        in_order.push_back(&entry);
     std::ranges::sort(in_order, [](const SortedName* one, const SortedName* other) { return *one < *other; });
     std::vector<std::string> names;
     names.reserve(entries.size());
-    for (SortedName* entry : in_order) names.push_back(std::move(entry->second));
+    for (SortedName* entry : in_order)
+        names.push_back(std::move(entry->second));
     return names;
 }
 
@@ -277,11 +279,7 @@ void make_folder(std::string_view path) {
     if (error) fail(error, target);
 }
 
-std::vector<std::string> subfolders_of(std::string_view folder) {
-    std::vector<std::string> folders = names_in(folder, fs::file_type::directory);
-    for (std::string& name : folders) name = join_path(folder, name);
-    return folders;
-}
+std::vector<std::string> subfolders_of(std::string_view folder) { return names_in(folder, fs::file_type::directory); }
 
 std::vector<std::string> files_of(std::string_view folder, std::string_view pattern) {
     std::vector<std::string> files = names_in(folder, fs::file_type::regular);

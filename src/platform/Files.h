@@ -51,7 +51,7 @@ void copy_file(std::string_view from, std::string_view to);
 void rename_path(std::string_view from, std::string_view to);
 void make_folder(std::string_view path);
 
-// Full paths of the subfolders, and names of the plain files that are not hidden; in ascending order without regard
+// Names of the subfolders, and of the plain files that are not hidden; in ascending order without regard
 // to case. `pattern` is "*" or "*.ending".
 std::vector<std::string> subfolders_of(std::string_view folder);
 std::vector<std::string> files_of(std::string_view folder, std::string_view pattern);

@@ -47,7 +47,8 @@ void frmTavrin03::stel_uiterlijk_in() {
     for (forms::Label* opschrift : {&lblLaatste, &lblContract, &lblUitkomstWind, &lblUitkomstKaart}) {
         opschrift->AutoSize = true;
     }
-    for (forms::Label* vet : {&lblContract, &lblUitkomstWind, &lblUitkomstKaart, &lblSlagenTellerNZ, &lblSlagenTellerOW}) {
+    for (forms::Label* vet :
+         {&lblContract, &lblUitkomstWind, &lblUitkomstKaart, &lblSlagenTellerNZ, &lblSlagenTellerOW}) {
         vet->FontBold = true;
     }
     lblUitkomstKaart.FontSize = 9.75;
@@ -168,8 +169,7 @@ void frmTavrin03::LeesAftavrinSpellen() {
 void frmTavrin03::chkSorteerRVLX_Click() {
     Foutpad("frmTavrin03 - chkSorteerRVLX - Click", [&] {
         if (cmdFocus.Visible) cmdFocus.SetFocus();
-        Bas_Aftavrin::SchrijfINI(programma, "Standaard", "chkSorteerRVLX", std::to_string(chkSorteerRVLX.Value),
-                                 programma.instellingen());
+        bewaar_keuze(chkSorteerRVLX);
         LaatRVLXSpellenZien();
     });
 }
@@ -177,8 +177,7 @@ void frmTavrin03::chkSorteerRVLX_Click() {
 void frmTavrin03::chkSorteerTavrin_Click() {
     Foutpad("frmTavrin03 - chkSorteerTavrin - Click", [&] {
         if (cmdFocus.Visible) cmdFocus.SetFocus();
-        Bas_Aftavrin::SchrijfINI(programma, "Standaard", "chkSorteerTavrin", std::to_string(chkSorteerTavrin.Value),
-                                 programma.instellingen());
+        bewaar_keuze(chkSorteerTavrin);
         LeesAftavrinSpellen();
     });
 }

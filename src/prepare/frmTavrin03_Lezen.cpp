@@ -17,18 +17,13 @@ namespace {
 
 std::string lees_tekst(const std::string& pad) {
     std::string tekst;
-    for (LineReader regels(pad); !regels.at_end();) tekst += regels.line() + "\r\n";
+    for (LineReader regels(pad); !regels.at_end();)
+        tekst += regels.line() + "\r\n";
     return tekst;
 }
 
 std::string zonder_regeleinde_vooraan(const std::string& tekst) {
     return tekst.starts_with("\r\n") ? tekst.substr(2) : tekst;
-}
-
-std::string met_regeleinden(const forms::ListBox& regels) {
-    std::string tekst;
-    for (int i = 0; i < regels.ListCount(); ++i) tekst += regels.List(i) + "\r\n";
-    return tekst;
 }
 
 }  // namespace
@@ -40,7 +35,8 @@ void frmTavrin03::LeesRVLXSpelIn() {
         if (!lees_spel(bron)) return;
         txtVraag.Text = "";
         txtAntwoord.Text = "";
-        for (const auto& [achtervoegsel, doos] : {std::pair{" vraag.txt", &txtVraag}, {" antwoord.txt", &txtAntwoord}}) {
+        for (const auto& [achtervoegsel, doos] :
+             {std::pair{" vraag.txt", &txtVraag}, {" antwoord.txt", &txtAntwoord}}) {
             lstKnipTekst.Clear();
             knip_tot_regels(trimmed(lees_tekst(bron.stam + achtervoegsel)));
             // Two characters go without a test: a text that doesn't begin with a line break loses two letters.
@@ -63,7 +59,8 @@ void frmTavrin03::LeesSpelIn() {
             knip_tot_regels(doos->Text());
             doos->Text = met_regeleinden(lstKnipTekst);
         }
-        for (forms::TextBox* doos : {&txtVraag, &txtAntwoord}) doos->Text = zonder_regeleinde_vooraan(doos->Text());
+        for (forms::TextBox* doos : {&txtVraag, &txtAntwoord})
+            doos->Text = zonder_regeleinde_vooraan(doos->Text());
         Kaarten::ToonBieding(*this, *this);
     });
 }
@@ -100,7 +97,8 @@ void frmTavrin03::maak_scherm_leeg() {
         label.BackColor = kInHand;
         label.Enabled = true;
     });
-    for (int plaats = 1; plaats <= 4; ++plaats) frame(plaats).BackColor = kInHand;
+    for (int plaats = 1; plaats <= 4; ++plaats)
+        frame(plaats).BackColor = kInHand;
     msfgTavrin.Redraw = false;
     for (int r = 1; r < msfgTavrin.Rows(); ++r) {
         msfgTavrin.Row = r;

@@ -7,6 +7,11 @@ std::string Scherm::LeesResString(int nummer) const { return Bas_Aftavrin::LeesR
 
 void Scherm::zet_buiten_beeld(forms::Control& control) { control.Left = windows().host().screen_size().width + 10; }
 
+void Scherm::bewaar_keuze(const forms::CheckBox& keuze) {
+    Bas_Aftavrin::SchrijfINI(programma, "Standaard", keuze.name(), std::to_string(keuze.Value),
+                             programma.instellingen());
+}
+
 void Scherm::centreer() {
     const forms::Size screen = windows().host().screen_size();
     Left = static_cast<int>(screen.width - Width) / 2;

@@ -3,6 +3,7 @@
 #include <string>
 #include <utility>
 
+#include "forms/CheckBox.h"
 #include "forms/Form.h"
 #include "services/Foutpad.h"
 #include "services/Programma.h"
@@ -27,6 +28,8 @@ public:
 protected:
     // Places a control where no user sees it: the focus sink of every screen.
     void zet_buiten_beeld(forms::Control& control);
+    // Keeps a box's value in the settings, under the box's name.
+    void bewaar_keuze(const forms::CheckBox& keuze);
     // Half the difference between the screen's and the form's width and height, in whole twips.
     void centreer();
 };

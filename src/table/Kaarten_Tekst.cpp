@@ -13,12 +13,6 @@ constexpr double kInformatieHoogte = 2827;
 constexpr int kSpareLines = 5;
 constexpr double kTwipsPerPoint = 15;
 
-std::string met_regeleinden(const forms::ListBox& lstKnipTekst) {
-    std::string tekst;
-    for (int i = 0; i < lstKnipTekst.ListCount(); ++i) tekst += lstKnipTekst.List(i) + "\r\n";
-    return tekst;
-}
-
 // The first record whose number at its head is that of the current card; -1 if there is none.
 int record_van_kaart(const frmTavrin02& tafel) {
     for (int i = 0; i < tafel.lstInformatie.ListCount(); ++i) {

@@ -28,3 +28,10 @@ void Knip_Tekst(const forms::TextBox& doos, forms::ListBox& lstKnipTekst) {
         lstKnipTekst.AddItem(without_carriage_return(trimmed(line), 1));
     }
 }
+
+std::string met_regeleinden(const forms::ListBox& lstKnipTekst) {
+    std::string tekst;
+    for (int i = 0; i < lstKnipTekst.ListCount(); ++i)
+        tekst += lstKnipTekst.List(i) + "\r\n";
+    return tekst;
+}
