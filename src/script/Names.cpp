@@ -1,8 +1,8 @@
 #include "script/Names.h"
 
 #include <array>
+#include <cctype>
 #include <charconv>
-#include <regex>
 
 #include "base/Text.h"
 #include "forms/FlexGrid.h"
@@ -13,8 +13,6 @@
 namespace script {
 
 namespace {
-
-int number_or(const std::string& text, int otherwise) { return text.empty() ? otherwise : whole_number(text); }
 
 std::string part_property(const Target& target, const std::string& property) {
     if (const auto* grid = dynamic_cast<forms::FlexGrid*>(target.control)) {
@@ -78,20 +76,71 @@ forms::Form& find_form(const forms::Windows& windows, const std::string& name) {
     return *form;
 }
 
+namespace {
+
+// Takes a name apart from the left: words, and numbers in brackets.
+class NameReader {
+public:
+    explicit NameReader(const std::string& name) : name_(name) {}
+
+    bool at_end() const { return at_ == name_.size(); }
+    bool follows(char sign) {
+        const bool here = at_ < name_.size() && name_[at_] == sign;
+        at_ += here ? 1 : 0;
+        return here;
+    }
+    void expect(char sign) {
+        if (!follows(sign)) fail();
+    }
+    std::string word() {
+        return taken([](unsigned char c) { return std::isalnum(c) != 0 || c == '_'; });
+    }
+    int number() {
+        return whole_number(taken([](unsigned char c) { return std::isdigit(c) != 0 || c == '-'; }));
+    }
+    [[noreturn]] void fail() const { throw CommandError("no name: " + name_); }
+
+private:
+    template <class Wanted>
+    std::string taken(Wanted wanted) {
+        const std::size_t from = at_;
+        while (at_ < name_.size() && wanted(static_cast<unsigned char>(name_[at_])))
+            ++at_;
+        if (at_ == from) fail();
+        return name_.substr(from, at_ - from);
+    }
+
+    const std::string& name_;
+    std::size_t at_ = 0;
+};
+
+}  // namespace
+
 Target find_target(const forms::Windows& windows, const std::string& name) {
-    static const std::regex kName(R"((\w+)(?:\.(\w+)(?:\((-?\d+)\))?(?:\[(\d+)(?:,(\d+))?\])?)?)");
-    constexpr std::size_t kLongest = 200;  // the matching of a longer one could use up the stack
-    std::smatch parts;
-    if (name.size() > kLongest) throw CommandError("no name: too long");
-    if (!std::regex_match(name, parts, kName)) throw CommandError("no name: " + name);
+    NameReader reader(name);
     Target target;
-    target.form = &find_form(windows, parts[1]);
-    if (!parts[2].matched) return target;
-    target.control = target.form->find_control(parts[2], number_or(parts[3], forms::Control::kNoIndex));
+    const std::string form = reader.word();
+    if (reader.at_end()) {
+        target.form = &find_form(windows, form);
+        return target;
+    }
+    reader.expect('.');
+    const std::string control = reader.word();
+    int index = forms::Control::kNoIndex;
+    if (reader.follows('(')) {
+        index = reader.number();
+        reader.expect(')');
+    }
+    if (reader.follows('[')) {
+        target.part = true;
+        target.row = reader.number();
+        if (reader.follows(',')) target.col = reader.number();
+        reader.expect(']');
+    }
+    if (!reader.at_end()) reader.fail();
+    target.form = &find_form(windows, form);
+    target.control = target.form->find_control(control, index);
     if (!target.control) throw CommandError("no control " + name);
-    target.part = parts[4].matched;
-    target.row = number_or(parts[4], 0);
-    target.col = number_or(parts[5], 0);
     return target;
 }
 
