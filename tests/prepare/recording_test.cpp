@@ -157,21 +157,6 @@ TEST_F(Recording, WrongSeatAndRevokeAreRefusedInWords) {
     EXPECT_EQ(get("lstKlaar.Tag"), "N");
 }
 
-TEST_F(Recording, CardTakenBackLeavesTheTrickAndTheTurnToItsSeat) {
-    open(Deal::random(12, 3, 3));
-    for (int seat = 0; seat < 3; ++seat) {
-        const Card card = deal.play[0].cards[seat];
-        if (card.suit == 1) continue;  // taking back a heart is another story
-        click(seat, card);
-        click(seat, card);
-        EXPECT_EQ(colour(seat, card), kWhite);
-        EXPECT_EQ(cell(1, seat + 1), "");
-        EXPECT_EQ(get("lstKlaar.Tag"), std::string(1, "NOZW"[seat]));
-        click(seat, card);
-        EXPECT_EQ(colour(seat, card), seat == 2 ? kGreen : kBlue);
-    }
-}
-
 // A hand for each seat in one suit, so that the odd handlers can be reached at will: Noord leads the suit given.
 Deal deal_of_suits(const std::array<int, 4>& suit_of_seat, int leader) {
     Deal deal;
