@@ -28,7 +28,8 @@ void Windows::dispatch(const std::function<void()>& event) {
         throw;
     }
     --depth_;
-    for (const auto& form : unloaded_) host_.closing(*form);
+    for (const auto& form : unloaded_)
+        host_.closing(*form);
     unloaded_.clear();
     if (started_ && forms_.empty()) ended_ = true;
     host_.dispatch_ended(*this);
@@ -75,7 +76,8 @@ bool Windows::show_pending(const Form& form) const { return std::ranges::find(pe
 
 std::vector<Form*> Windows::loaded() const {
     std::vector<Form*> all;
-    for (const auto& form : forms_) all.push_back(form.get());
+    for (const auto& form : forms_)
+        all.push_back(form.get());
     return all;
 }
 
@@ -94,7 +96,7 @@ void Windows::settle() {
 bool Windows::show_what_is_pending() {
     if (pending_.empty()) return false;
     std::vector<Form*> shows = std::exchange(pending_, {});
-    std::ranges::stable_partition(shows, [](const Form* form) { return !form->is_report(); });
+    std::stable_partition(shows.begin(), shows.end(), [](const Form* form) { return !form->is_report(); });
     for (Form* form : shows) {
         form->Visible.store(true);
         bring_to_front(*form);

@@ -14,7 +14,8 @@ protected:
     // Whether a card stands somewhere in its seat's column.
     bool in_column(int seat, const std::string& card) {
         for (int row = 1; row <= 13; ++row) {
-            if (get("msfgTavrin[" + std::to_string(row) + "," + std::to_string(seat + 1) + "].Text") == card) return true;
+            if (get("msfgTavrin[" + std::to_string(row) + "," + std::to_string(seat + 1) + "].Text") == card)
+                return true;
         }
         return false;
     }
@@ -50,7 +51,8 @@ TEST_P(RandomClicks, NeverBreakTheScreen) {
         platform.answers = {random() % 2 == 0 ? Answer::Yes : Answer::No};
         const auto kind = random() % 40;
         if (kind == 0) {
-            program("click frmTavrin03.msfgTavrin[" + std::to_string(random() % 14) + "," + std::to_string(random() % 5) + "]");
+            program("click frmTavrin03.msfgTavrin[" + std::to_string(random() % 14) + "," +
+                    std::to_string(random() % 5) + "]");
         } else if (kind == 1) {
             program("click frmTavrin03.cmdOpslaan");
         } else if (kind == 2 && get("lstAfTavrin.ListCount") != "0") {
@@ -72,7 +74,7 @@ class LegalClicks : public RandomClicks {};
 TEST_P(LegalClicks, KeepEveryPlayedCardInTheGrid) {
     std::mt19937 random(GetParam());
     const bridge::Deal deal =
-        bridge::Deal::recordable(GetParam(), static_cast<int>(random() % 4), static_cast<int>(random() % 4));
+        bridge::Deal::random(GetParam(), static_cast<int>(random() % 4), static_cast<int>(random() % 4));
     program.install_companion();
     deal.write(program, "Spel 012");
     program("start\nclick frmTavrin01.cmdNieuwSpel\nselect frmTavrin03.lstRVLX 0");

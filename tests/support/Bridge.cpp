@@ -55,27 +55,21 @@ Deal Deal::random(unsigned seed, int leader, std::optional<int> trump) {
     for (int seat = 0; seat < 4; ++seat) {
         std::vector<int> hand(numbers.begin() + seat * 13, numbers.begin() + (seat + 1) * 13);
         std::ranges::sort(hand, {}, [](int n) { return n / 13 * 13 - n % 13; });
-        for (const int number : hand) deal.hands[seat].push_back({number / 13, number % 13 + 2});
+        for (const int number : hand)
+            deal.hands[seat].push_back({number / 13, number % 13 + 2});
     }
     deal.play = random_play(deal, random);
     return deal;
-}
-
-Deal Deal::recordable(unsigned seed, int leader, std::optional<int> trump) {
-    constexpr int kHearts = 1;
-    for (;; seed += 1000) {
-        Deal deal = random(seed, leader, trump);
-        const Trick& first = deal.play[0];
-        if (first.cards[leader].suit != kHearts && first.cards[(leader + 1) % 4].suit != kHearts) return deal;
-    }
 }
 
 void Deal::write(Program& program, const std::string& name) const {
     const std::string stem = "RVLX/Spellen/" + name + "/" + name;
     const Card& lead = play[0].cards[leader];
     static const char* const kWords[] = {"2", "3", "4", "5", "6", "7", "8", "9", "T", "Boer", "Vrouw", "Heer", "Aas"};
-    program.write(stem + " Contract.txt", std::string(kSeatNames[(leader + 3) % 4]) + " 4 " + (trump ? kSuitNames[*trump] : "SA") + "\r\n");
-    program.write(stem + " Uitkomst.txt", std::string(kSeatNames[leader]) + " - " + std::to_string(lead.suit) + kWords[lead.rank - 2] + "\r\n");
+    program.write(stem + " Contract.txt",
+                  std::string(kSeatNames[(leader + 3) % 4]) + " 4 " + (trump ? kSuitNames[*trump] : "SA") + "\r\n");
+    program.write(stem + " Uitkomst.txt",
+                  std::string(kSeatNames[leader]) + " - " + std::to_string(lead.suit) + kWords[lead.rank - 2] + "\r\n");
     std::string lines;
     for (const auto& hand : hands) {
         for (int suit = 0; suit < 4; ++suit) {
@@ -89,7 +83,8 @@ void Deal::write(Program& program, const std::string& name) const {
     program.write(stem + " vraag.txt", "\r\nHoe speelt u dit?\r\n");
     program.write(stem + " antwoord.txt", "\r\nMet beleid.\r\n");
     std::string bids = "Noord\r\n";
-    for (int line = 0; line < 36; ++line) bids += line % 9 == 0 ? "pas~~\r\n" : "~~\r\n";
+    for (int line = 0; line < 36; ++line)
+        bids += line % 9 == 0 ? "pas~~\r\n" : "~~\r\n";
     program.write(stem + " bieding.txt", bids);
 }
 
@@ -99,13 +94,16 @@ std::string Deal::label(int seat, const Card& card) const {
         if (held == card) break;
         if (held.suit == card.suit) ++index;
     }
-    return std::string("frmTavrin03.lbl") + kSuitNames[card.suit] + kSeatNames[seat] + "(" + std::to_string(index) + ")";
+    return std::string("frmTavrin03.lbl") + kSuitNames[card.suit] + kSeatNames[seat] + "(" + std::to_string(index) +
+           ")";
 }
 
 std::string Deal::row(const Trick& trick) {
     std::string row;
-    for (int step = 0; step < 4; ++step) row += std::to_string((trick.leader + step) % 4 + 1);
-    for (const Card& card : trick.cards) row += "|" + std::to_string(card.code());
+    for (int step = 0; step < 4; ++step)
+        row += std::to_string((trick.leader + step) % 4 + 1);
+    for (const Card& card : trick.cards)
+        row += "|" + std::to_string(card.code());
     return row;
 }
 

@@ -36,9 +36,6 @@ struct Deal {
     std::vector<Trick> play;
 
     static Deal random(unsigned seed, int leader, std::optional<int> trump);
-    // One whose lead, and the card after it, is no heart: as long as the lead is fixed the recording screen takes no
-    // heart, so that another deal cannot be recorded.
-    static Deal recordable(unsigned seed, int leader, std::optional<int> trump);
     // Writes it as a deal of the companion in RVLX/Spellen.
     void write(Program& program, const std::string& name) const;
     // Name of the label of a card in its owner's hand.

@@ -1,0 +1,17 @@
+// The dump of a screen state, read by the hidden button.
+#include "Harness.h"
+#include "prepare/frmTavrin03.h"
+
+#include <fstream>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const auto folder = fuzz::fresh_program_folder();
+    std::ofstream(folder / "test.txt", std::ios::binary) << fuzz::text_of(data, size);
+    script::Interpreter interpreter(folder.string());
+    interpreter.run("start");
+    auto& screen = dynamic_cast<frmTavrin03&>(interpreter.programma.schermen.laad("frmTavrin03"));
+    interpreter.programma.windows.dispatch([&] { screen.cmdOphalen.Click(); });
+    fuzz::require(interpreter.programma.gedeeld.foutNummer != static_cast<int>(FoutNummer::Internal),
+                  interpreter.programma.gedeeld.foutNaam);
+    return 0;
+}

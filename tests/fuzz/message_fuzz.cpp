@@ -1,0 +1,22 @@
+// Any number asked of the message table, and any text shown by the report.
+#include "Harness.h"
+#include "base/Text.h"
+#include "services/Bas_Aftavrin.h"
+#include "services/Foutpad.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string_view input = fuzz::text_of(data, size);
+    static const auto folder = fuzz::fresh_program_folder();
+    script::Interpreter interpreter(folder.string());
+    interpreter.run("start");
+    Programma& programma = interpreter.programma;
+    const int number = numeric_value(input);
+    programma.windows.dispatch([&] {
+        const std::string text = Bas_Aftavrin::LeesResString(programma, number);
+        fuzz::require(text.empty() == (programma.gedeeld.foutNummer == static_cast<int>(FoutNummer::NoSuchResource)),
+                      "a number has a text, or is reported");
+        meld_fout(programma, std::string(input), number, std::string(input));
+    });
+    interpreter.run("wait 5000");
+    return 0;
+}
