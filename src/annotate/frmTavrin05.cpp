@@ -1,5 +1,6 @@
 #include "annotate/frmTavrin05.h"
 
+#include "base/Zolang.h"
 #include "cards/Kaart.h"
 #include "cards/Kaarten.h"
 #include "platform/Files.h"
@@ -116,9 +117,7 @@ void frmTavrin05::Form_Load() {
         txtKnipTekst.Move(2490, txtVoorbeeld.Top, txtVoorbeeld.Width, txtVoorbeeld.Height);
         lees_spellen();
         for (int slag = kSlagen; slag >= 1; --slag) lstSlag.AddItem(std::to_string(slag));
-        ScrollBezig = true;
-        vscrSlag.Value = kSlagen;
-        ScrollBezig = false;
+        zet_balk(kSlagen);
         zet_alles_dicht();
     });
 }
@@ -191,9 +190,7 @@ void frmTavrin05::lstSpellen_Click() {
         lees_teksten(stam + " informatie.txt");
         gedeeld.spelMap = map;
         gedeeld.spelNaam = naam;
-        ScrollBezig = true;
-        vscrSlag.Value = 0;
-        ScrollBezig = false;
+        zet_balk(0);
         vscrSlag.Value = lstSlag.ListCount() - 1;
         txtSlag.Text = "1";
         schakel_kaders(true);
@@ -202,7 +199,7 @@ void frmTavrin05::lstSpellen_Click() {
 
 // Tells that a file of the deal is missing.
 bool frmTavrin05::ontbreekt(const std::string& bestand, const std::string& genoemd) {
-    if (Bas_Aftavrin::BestandStatus(bestand) == 1) return false;
+    if (Kaarten::aanwezig(bestand)) return false;
     std::string melding = replaced(LeesResString(10062), "~", genoemd);
     melding = replaced(replaced(melding, "+", gedeeld.spelMapKopie), "|", "\n");
     programma.platform.message_box(box_style::kInformation, Caption(), melding);
@@ -216,7 +213,7 @@ void frmTavrin05::lees_speelrijen(const std::string& pad) {
 }
 
 void frmTavrin05::lees_teksten(const std::string& pad) {
-    if (Bas_Aftavrin::BestandStatus(pad) != 1) return;
+    if (!Kaarten::aanwezig(pad)) return;
     int regel = 0;
     for (const std::string& record : read_records(pad, Kaarten::kRecordLengte, Kaarten::kAantalRecords)) {
         gedeeld.delen = split(trimmed(record), "|");
@@ -231,16 +228,18 @@ void frmTavrin05::lees_teksten(const std::string& pad) {
     }
 }
 
+// Without its change.
+void frmTavrin05::zet_balk(int waarde) {
+    const Zolang bezig(ScrollBezig, true);
+    vscrSlag.Value = waarde;
+}
+
 void frmTavrin05::vscrSlag_Change() {
     Foutpad("frmTavrin05 - vscrSlag - Change", [&] {
         if (ScrollBezig) return;
         if (!TekstHouden) txtInformatie.Text = "";
         const int laatste = lstSlag.ListCount() - 1;
-        if (vscrSlag.Value < 0 || vscrSlag.Value > laatste) {
-            ScrollBezig = true;
-            vscrSlag.Value = vscrSlag.Value < 0 ? laatste : 0;
-            ScrollBezig = false;
-        }
+        if (vscrSlag.Value < 0 || vscrSlag.Value > laatste) zet_balk(vscrSlag.Value < 0 ? laatste : 0);
         txtSlag.Text = lstSlag.List(vscrSlag.Value);
         const int slag = numeric_value(txtSlag.Text());
         EersteNummer = (slag - 1) * 4 + 1;

@@ -76,6 +76,7 @@ private:
     bool ontbreekt(const std::string& bestand, const std::string& genoemd);
     void lees_speelrijen(const std::string& pad);
     void lees_teksten(const std::string& pad);
+    void zet_balk(int waarde);
     void vscrSlag_Change();
     void toon_slag(const std::string& rij);
 

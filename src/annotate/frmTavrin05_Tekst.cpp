@@ -1,5 +1,6 @@
 // The texts of the cards.
 #include "annotate/frmTavrin05.h"
+#include "base/Zolang.h"
 #include "cards/Kaarten.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
@@ -40,9 +41,10 @@ void frmTavrin05::picYesNo_Click(int index) {
         txtInformatie.Text = replaced(gedeeld.delen[1], "~", "\r\n");
         lblDezeKaart.Caption = LeesResString(10060) + ": " + nummer;
         lblDezeKaart.Left = cmdGebruiken.Left - lblDezeKaart.Width - 128;
-        TekstHouden = true;
-        vscrSlag.Value = 12 - index / 4;
-        TekstHouden = false;
+        {
+            const Zolang houdt(TekstHouden, true);
+            vscrSlag.Value = 12 - index / 4;
+        }
         ZetJaNeePic();
         picYesNo(index).Picture = picBezig.Picture();
         txtInformatie.Text = trimmed(txtInformatie.Text());
@@ -93,7 +95,9 @@ void frmTavrin05::bewaar_tekst(const std::string& tekst, const std::string& map,
     for (int i = 0; i < lstInformatie.ListCount(); ++i) {
         bytes += record_bytes(lstInformatie.List(i), Kaarten::kRecordLengte);
     }
-    replace_file(join_path(map, naam + " informatie.txt"), bytes);
+    const std::string pad = join_path(map, naam + " informatie.txt");
+    refuse_links(programma.pakketten(), pad);
+    replace_file(pad, bytes);
 }
 
 void frmTavrin05::cmdVoorBeeld_Click() {

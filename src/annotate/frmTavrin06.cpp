@@ -66,9 +66,8 @@ void frmTavrin06::Form_Load() {
 }
 
 void frmTavrin06::leg_kaart(forms::PictureBox& plek, const std::string& code, double links, double boven) {
-    const int kaartcode = numeric_value(code);
-    plek.Picture = Bas_Aftavrin::LaadPlaatje(kaartcode - kKleinePlaatjes);
-    plek.AccessibleName = kaart::titel(kaartcode);
+    plek.Picture = Bas_Aftavrin::LaadPlaatje(kaart::nummer_van(code) + kaart::kCodeBasis - kKleinePlaatjes);
+    plek.AccessibleName = kaart::titel(numeric_value(code));
     plek.Tag = code;
     plek.BorderStyle = 0;
     plek.Move(links, boven);

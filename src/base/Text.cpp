@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <limits>
 
 #include "base/Fout.h"
@@ -77,15 +78,23 @@ std::string trimmed(std::string_view text) {
     return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
 }
 
+std::string_view number_part(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    const std::size_t sign = text.starts_with('-') || text.starts_with('+') ? 1 : 0;
+    return text.substr(0, text.find_first_not_of("0123456789", sign));
+}
+
 int numeric_value(std::string_view text) {
-    std::size_t at = std::min(text.find_first_not_of(' '), text.size());
-    bool negative = false;
-    if (at < text.size() && (text[at] == '-' || text[at] == '+')) negative = text[at++] == '-';
-    long long value = 0;
-    for (; at < text.size() && text[at] >= '0' && text[at] <= '9'; ++at) {
-        value = std::min<long long>(value * 10 + (text[at] - '0'), std::numeric_limits<int>::max());
+    using Limits = std::numeric_limits<int>;
+    std::string_view number = number_part(text);
+    const bool negative = number.starts_with('-');
+    if (negative || number.starts_with('+')) number.remove_prefix(1);
+    std::int64_t value = 0;
+    for (const char digit : number) {
+        value = value * 10 + (negative ? '0' - digit : digit - '0');
+        value = std::clamp<std::int64_t>(value, Limits::min(), Limits::max());
     }
-    return static_cast<int>(negative ? -value : value);
+    return static_cast<int>(value);
 }
 
 std::string replaced(std::string_view text, std::string_view what, std::string_view by) {

@@ -31,6 +31,8 @@ std::string trimmed(std::string_view text);
 // Numeric value: leading blanks skipped, then a sign and as many digits as stand there; 0 if there are none.
 // A value that an int cannot hold stays at the nearest one that it can.
 int numeric_value(std::string_view text);
+// The sign and the digits that make up that value, however many.
+std::string_view number_part(std::string_view text);
 
 std::string replaced(std::string_view text, std::string_view what, std::string_view by);
 std::string lower_case(std::string_view text);

@@ -1,6 +1,9 @@
 #include "cards/Kaart.h"
 
 #include <algorithm>
+#include <limits>
+
+#include "base/Text.h"
 
 namespace kaart {
 
@@ -17,6 +20,10 @@ constexpr std::array<KleurGegevens, 4> kGegevens{{{34, 27, "schoppen", 109, kZwa
 }  // namespace
 
 const KleurGegevens& gegevens(Kleur kleur) { return kGegevens[static_cast<std::size_t>(kleur)]; }
+
+int nummer_van(std::string_view kaartcode) {
+    return std::max(numeric_value(kaartcode), std::numeric_limits<int>::min() + kCodeBasis) - kCodeBasis;
+}
 
 Kleur kleur_van(int kaartnummer) {
     if (kaartnummer < 14) return Kleur::Schoppen;
@@ -38,8 +45,8 @@ int rang_van_uitkomst(std::string_view woord) {
 }
 
 std::string titel(int kaartcode) {
+    if (kaartcode <= kCodeBasis || kaartcode >= kKaartRug) return {};
     const int nummer = kaartcode - kCodeBasis;
-    if (nummer < 1 || nummer > 52) return {};
     std::string naam = gegevens(kleur_van(nummer)).naam;
     naam.front() = static_cast<char>(naam.front() - 'a' + 'A');
     return naam + " " + waarde_woorden()[static_cast<std::size_t>((nummer - 1) % kKaartenPerKleur)];

@@ -35,6 +35,8 @@ const KleurGegevens& gegevens(Kleur kleur);
 // 110 is the picture of no trump, and "sa" its word in a contract.
 inline constexpr int kPlaatjeSansAtout = 110;
 
+// The card number of a code as it stands in a file; of a code far out of range a number that is out of range as well.
+int nummer_van(std::string_view kaartcode);
 // Suit of a card number; any number below 14 is Schoppen, any above 39 Klaveren.
 Kleur kleur_van(int kaartnummer);
 

@@ -2,13 +2,14 @@
 
 #include "platform/Files.h"
 #include "platform/Paths.h"
-#include "services/Bas_Aftavrin.h"
 
 namespace Kaarten {
 
 std::string bestand(const Gedeeld& gedeeld, const std::string& achtervoegsel) {
     return join_path(gedeeld.spelMap, gedeeld.spelNaam + achtervoegsel);
 }
+
+bool aanwezig(const std::string& pad) { return file_length(pad) > 0; }
 
 std::string eerste_regel(const std::string& pad) {
     LineReader reader(pad);
@@ -28,7 +29,7 @@ void LeesInformatie(Scherm& scherm, forms::ListBox& lstInformatie) {
     scherm.Foutpad("Kaarten - General - LeesInformatie", [&] {
         lstInformatie.Clear();
         const std::string pad = bestand(scherm.gedeeld, " informatie.txt");
-        if (Bas_Aftavrin::BestandStatus(pad) != 1) return;
+        if (!aanwezig(pad)) return;
         for (std::string& record : read_records(pad, kRecordLengte, kAantalRecords)) {
             lstInformatie.AddItem(std::move(record));
         }
@@ -39,7 +40,7 @@ void LeesKartenBestandIn(Scherm& scherm, HandLijsten& lijsten) {
     scherm.Foutpad("Kaarten - General - LeesKartenBestandIn", [&] {
         lijsten.lstAfTavrin.Clear();
         const std::string pad = bestand(scherm.gedeeld, " aftavrin.txt");
-        if (Bas_Aftavrin::BestandStatus(pad) != 1) return;
+        if (!aanwezig(pad)) return;
         std::string& regel = scherm.gedeeld.regel;
         for (LineReader reader(pad); !reader.at_end();) {
             regel = reader.line();
@@ -61,7 +62,7 @@ void VerdeelDeKaarten(Scherm& scherm, HandLijsten& lijsten) {
         for (int plaats = 1; plaats <= 4; ++plaats) {
             forms::ListBox& hand = lijsten.lstHand(plaats);
             for (int i = 0; i < hand.ListCount(); ++i) {
-                const int nummer = numeric_value(hand.List(i)) - kaart::kCodeBasis;
+                const int nummer = kaart::nummer_van(hand.List(i));
                 lijsten.suit(kaart::kleur_van(nummer), plaats).AddItem(hand.List(i));
             }
         }
@@ -84,7 +85,7 @@ void vul_met_mappen(forms::ListBox& lijst, forms::DirListBox& mappen, const std:
 void WelkeKaartIsDit(Scherm& scherm, const std::string& kaartcode) {
     scherm.Foutpad("Kaarten - General - WelkeKaartIsDit", [&] {
         Gedeeld& gedeeld = scherm.gedeeld;
-        const int nummer = numeric_value(kaartcode) - kaart::kCodeBasis;
+        const int nummer = kaart::nummer_van(kaartcode);
         gedeeld.kleurLetter = lower_case(scherm.LeesResString(kaart::gegevens(kaart::kleur_van(nummer)).letter));
         gedeeld.waardeLetter = waarde_letter(scherm, nummer);
         gedeeld.kaartTekst = gedeeld.kleurLetter + " " + gedeeld.waardeLetter;

@@ -16,6 +16,9 @@ inline constexpr int kAantalRecords = 52;
 
 // Path of the chosen deal's file of that suffix, such as " contract.txt".
 std::string bestand(const Gedeeld& gedeeld, const std::string& achtervoegsel);
+// Whether a file of a deal is there: one that is longer than zero bytes. Where that cannot be told it is a failure, so
+// that nothing is taken for missing, and then written over, that could only not be reached.
+bool aanwezig(const std::string& pad);
 // First line of a text file; empty where the file has none.
 std::string eerste_regel(const std::string& pad);
 

@@ -35,12 +35,17 @@ bool says_one(const QString& file) {
     return flag.open(QIODevice::ReadOnly) && flag.readAll().trimmed() == "1";
 }
 
+// A system may run from a disk that can be taken out, but that is nobody's stick.
+bool holds_the_system(const QStorageInfo& info) {
+    return info.isRoot() || (info.device().startsWith('/') && info.device() == QStorageInfo::root().device());
+}
+
 }  // namespace
 
 std::vector<std::string> mounted_volumes() {
     std::vector<std::string> roots;
     for (const QStorageInfo& info : QStorageInfo::mountedVolumes()) {
-        if (info.isValid() && info.isReady()) roots.push_back(from_qt(info.rootPath()));
+        if (info.isValid() && info.isReady()) roots.push_back(path_text(info.rootPath().toStdString()));
     }
     std::ranges::sort(roots);
     roots.erase(std::ranges::unique(roots).begin(), roots.end());
@@ -64,13 +69,10 @@ bool disk_is_removable(const QString& device, const QString& blocks) {
 DriveType type_of_volume(const std::string& root) {
     const QStorageInfo info = volume(root);
     const DriveType by_file_system = type_of_file_system(info.fileSystemType());
-    if (by_file_system != DriveType::Fixed) return by_file_system;
+    if (by_file_system != DriveType::Fixed || holds_the_system(info)) return by_file_system;
     return disk_is_removable(QString::fromUtf8(info.device()), kBlocks) ? DriveType::Removable : DriveType::Fixed;
 }
 
-std::string label_of_volume(const std::string& root) {
-    const QStorageInfo info = volume(root);
-    return from_qt(info.name().isEmpty() ? info.displayName() : info.name());
-}
+std::string label_of_volume(const std::string& root) { return from_qt(volume(root).name()); }
 
 }  // namespace desktop

@@ -10,7 +10,9 @@ enum class DriveType { Removable = 2, Fixed = 3, Remote = 4, Cd = 5, Ram = 6 };
 
 // Mount points of all volumes that are ready, in the order of their names.
 std::vector<std::string> mounted_volumes();
+// The volume that the system runs from is never removable.
 DriveType type_of_volume(const std::string& root);
+// Empty for a volume without a label.
 std::string label_of_volume(const std::string& root);
 
 // What the file system alone tells; Fixed where it tells nothing.

@@ -6,8 +6,12 @@
 #include <QNetworkInterface>
 #include <QNetworkReply>
 #include <QNetworkRequest>
+#include <QTimer>
 #include <QUrl>
+#include <algorithm>
+#include <array>
 
+#include "base/Text.h"
 #include "desktop/Text.h"
 #include "platform/Paths.h"
 
@@ -16,6 +20,30 @@ namespace desktop {
 namespace {
 
 constexpr int kStatusOk = 200;
+
+// What a program of this platform begins with.
+#ifdef Q_OS_WIN
+constexpr std::array<QByteArrayView, 1> kProgramMarks{"MZ"};
+#else
+constexpr std::array<QByteArrayView, 2> kProgramMarks{
+    "\x7F"
+    "ELF",
+    "#!"};
+#endif
+constexpr qsizetype kMarkLength = 4;  // of the longest
+
+bool begins_as_program(const QByteArray& head) {
+    return std::ranges::any_of(kProgramMarks, [&](QByteArrayView mark) { return head.startsWith(mark); });
+}
+
+QNetworkRequest request_for(const QUrl& address, const Network::Limits& limits) {
+    QNetworkRequest request(address);
+    request.setTransferTimeout(static_cast<int>(limits.silence.count()));
+    request.setHeader(QNetworkRequest::UserAgentHeader, QStringLiteral("Zandolin Lomert"));
+    request.setRawHeader("Accept-Encoding", "identity");  // the length that is told is then that of the file
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
+    return request;
+}
 
 bool interface_is_up() {
     for (const QNetworkInterface& interface : QNetworkInterface::allInterfaces()) {
@@ -38,33 +66,36 @@ bool Network::connected() const {
 }
 
 bool Network::download(const std::string& url, const std::string& path) {
+    return download(url, path, equal_ignoring_case(right(path, 4), ".exe") ? kInstaller : kProbe);
+}
+
+bool Network::download(const std::string& url, const std::string& path, const Limits& limits) {
     const QUrl address(to_qt(url));
     if (address.scheme() != "http" && address.scheme() != "https") return false;
     QFile file(QString::fromStdString(find_case_blind(path).string()));
     if (!file.open(QIODevice::WriteOnly)) return false;
 
     if (!manager_) manager_ = std::make_unique<QNetworkAccessManager>();
-    QNetworkRequest request(address);
-    request.setTransferTimeout(static_cast<int>(patience_.count()));
-    request.setHeader(QNetworkRequest::UserAgentHeader, QStringLiteral("Zandolin Lomert"));
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
-    const std::unique_ptr<QNetworkReply> reply(manager_->get(request));
+    const std::unique_ptr<QNetworkReply> reply(manager_->get(request_for(address, limits)));
 
-    bool written = true;
+    bool taken = true;
+    QByteArray head;
     const auto take = [&] {
         const QByteArray bytes = reply->readAll();
-        if (file.write(bytes) != bytes.size()) {
-            written = false;
-            reply->abort();
-        }
+        head.append(bytes.left(kMarkLength - head.size()));
+        if (taken && file.size() + bytes.size() <= limits.bytes && file.write(bytes) == bytes.size()) return;
+        taken = false;
+        reply->abort();
     };
     QEventLoop loop;
     QObject::connect(reply.get(), &QNetworkReply::readyRead, &loop, take);
     QObject::connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
+    if (limits.whole.count() > 0) QTimer::singleShot(limits.whole, reply.get(), [&] { reply->abort(); });
     if (!reply->isFinished()) loop.exec(QEventLoop::ExcludeUserInputEvents);
-    if (written && reply->isOpen()) take();
+    if (taken && reply->isOpen()) take();
     const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    return written && reply->error() == QNetworkReply::NoError && status == kStatusOk && file.flush();
+    if (!taken || reply->error() != QNetworkReply::NoError || status != kStatusOk || !file.flush()) return false;
+    return !limits.is_program || begins_as_program(head);
 }
 
 }  // namespace desktop

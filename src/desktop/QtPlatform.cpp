@@ -49,7 +49,7 @@ bool is_program(const QFileInfo& file) {
 
 QtPlatform::QtPlatform(QtHost& host, const std::string& program_folder)
     : host_(host),
-      program_folder_(program_folder.empty() ? from_qt(QDir::toNativeSeparators(QCoreApplication::applicationDirPath()))
+      program_folder_(program_folder.empty() ? path_text(QCoreApplication::applicationDirPath().toStdString())
                                              : program_folder) {}
 
 std::string QtPlatform::special_folder(int number) const { return special_folder_of(program_folder_, number); }

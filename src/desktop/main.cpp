@@ -13,6 +13,7 @@
 #include "desktop/QtPlatform.h"
 #include "desktop/Style.h"
 #include "desktop/Text.h"
+#include "platform/Paths.h"
 #include "resources/Icon.h"
 #include "services/Programma.h"
 
@@ -36,7 +37,7 @@ std::string program_folder(const QApplication& application) {
     parser.addOption(folder);
     parser.process(application);
     const QString given = parser.value(folder);
-    return given.isEmpty() ? std::string() : desktop::from_qt(QDir(given).absolutePath());
+    return given.isEmpty() ? std::string() : path_text(QDir(given).absolutePath().toStdString());
 }
 
 // A failure that no routine catches ends the program with its plain text.

@@ -27,6 +27,7 @@ void ListBox::AddItem(std::string text) {
 
 void ListBox::Clear() {
     lines_.clear();
+    selected_ = 0;
     in_order_ = true;
     ListIndex.store(-1);
     lines_changed();
@@ -53,7 +54,7 @@ void ListBox::SetSelected(int line, bool selected) {
     }
     Line& asked = line_at(line);
     if (asked.selected == selected) return;
-    asked.selected = selected;
+    select(asked, selected);
     ListIndex.store(line);
     changed();
     if (Click) Click();
@@ -70,10 +71,15 @@ int ListBox::find(std::string_view text, Match match) const {
 
 void ListBox::user_select(int line) {
     Line& asked = line_at(line);
-    if (MultiSelect) asked.selected = !asked.selected;
+    if (MultiSelect) select(asked, !asked.selected);
     ListIndex.store(line);
     changed();
     if (Click) Click();
+}
+
+void ListBox::select(Line& line, bool selected) {
+    line.selected = selected;
+    selected_ += selected ? 1 : -1;
 }
 
 void ListBox::assign_index(int index) {

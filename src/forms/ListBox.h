@@ -38,6 +38,8 @@ public:
     std::string Text() const;
 
     bool Selected(int line) const;
+    // How many lines are selected, with multiple selection.
+    int SelCount() const { return selected_; }
     // With multiple selection: makes the line current, and raises Click when its state changes.
     void SetSelected(int line, bool selected);
 
@@ -56,6 +58,7 @@ private:
         bool selected = false;
     };
     void assign_index(int index);
+    void select(Line& line, bool selected);
     Line& line_at(int line) const;
     void lines_changed();
     void sort_if_needed() const;
@@ -63,6 +66,7 @@ private:
     mutable std::vector<Line> lines_;
     mutable bool in_order_ = true;
     int lines_version_ = 0;
+    int selected_ = 0;
 };
 
 }  // namespace forms

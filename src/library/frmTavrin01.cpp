@@ -1,5 +1,6 @@
 #include "library/frmTavrin01.h"
 
+#include "base/Zolang.h"
 #include "cards/Kaarten.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
@@ -67,6 +68,7 @@ void frmTavrin01::Form_Load() {
         cmdHerbeNoem.Enabled = false;
         std::string map = programma.pakketten();
         Bas_Aftavrin::MaakPad(map);
+        programma.ruim_resten_op();
         test_verbinding();
     });
 }
@@ -182,6 +184,9 @@ void frmTavrin01::cmdWissen_Click() {
 }
 
 void frmTavrin01::wis_spel() {
+    refuse_links(programma.pakketten(), filFiles.Path());
+    refuse_links_in(filFiles.Path(), "*");
+    remove_leftovers(filFiles.Path());
     for (int i = 0; i < filFiles.ListCount(); ++i)
         delete_file(join_path(filFiles.Path(), filFiles.List(i)));
     remove_folder(filFiles.Path());
@@ -194,6 +199,7 @@ void frmTavrin01::cmdDownLoaden_Click() {
         std::string map = programma.pad("Update");
         Bas_Aftavrin::MaakPad(map);
         const std::string installatie = path_text(find_case_blind(join_path(programma.pad("update"), kInstallatie)));
+        refuse_links(programma.pad("update"), installatie);
         // A leftover of length 0 stays: the download overwrites it.
         if (Bas_Aftavrin::BestandStatus(installatie) == 1) delete_file(installatie);
         if (!haal_installatie(installatie)) {
@@ -211,12 +217,10 @@ void frmTavrin01::cmdDownLoaden_Click() {
 }
 
 bool frmTavrin01::haal_installatie(const std::string& bestand) {
-    MousePointer = forms::MousePointer::Hourglass;
+    const Zolang zandloper(MousePointer, forms::MousePointer::Hourglass);
     Refresh();
-    const bool gelukt =
-        programma.platform.download("http://" + Bas_Aftavrin::Server(programma) + "/tavrin/" + kInstallatie, bestand);
-    MousePointer = forms::MousePointer::Default;
-    return gelukt;
+    return programma.platform.download("http://" + Bas_Aftavrin::Server(programma) + "/tavrin/" + kInstallatie,
+                                       bestand);
 }
 
 void frmTavrin01::meld_geen_update() {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/Zolang.h"
 #include "cards/Kaarten.h"
 #include "library/frmTavrin01.h"
 #include "platform/Files.h"
@@ -18,6 +19,14 @@ constexpr const char* kSelecteerTotEinde = "+{END}";
 
 // "007" of 7; "234" of 1234.
 std::string drie_cijfers(long long nummer) { return right(std::to_string(1000 + nummer), 3); }
+
+// The value of a number, or of its last digits where it has more than one needs for drie_cijfers.
+int achterste_cijfers(const std::string& tekst) {
+    constexpr std::size_t kGenoeg = 9;
+    std::string nummer(number_part(tekst));
+    if (nummer.size() > kGenoeg) nummer.erase(1, nummer.size() - kGenoeg);  // what stays in front may be the sign
+    return numeric_value(nummer);
+}
 
 int laatste_drie(const std::string& regel) { return numeric_value(right(regel, 3)); }
 
@@ -103,7 +112,7 @@ int frmTavrin04::voorstel() {
 }
 
 void frmTavrin04::vul_nummers(int voorgesteld) {
-    bezigMetLaden = true;
+    const Zolang laadt(bezigMetLaden, true);
     for (int nummer = kHoogsteNummer; nummer >= 1; --nummer) {
         lstSpelnummers.AddItem(drie_cijfers(nummer));
         if (nummer != voorgesteld) continue;
@@ -112,7 +121,6 @@ void frmTavrin04::vul_nummers(int voorgesteld) {
         vscrSpelNummer.Value = nummer;
         vscrEigenSpelnummer.Value = nummer;
     }
-    bezigMetLaden = false;
 }
 
 void frmTavrin04::Form_Activate() {
@@ -183,9 +191,8 @@ void frmTavrin04::balk_verschoven(const Reeks& reeks) {
 
 // Its change has no say: the number that was just given stands.
 void frmTavrin04::maak_leeg(forms::TextBox& nummer) {
-    maaktLeeg = true;
+    const Zolang maakt(maaktLeeg, true);
     nummer.Text = "";
-    maaktLeeg = false;
 }
 
 void frmTavrin04::cmdHerbenoem_Click() {
@@ -209,11 +216,13 @@ void frmTavrin04::cmdHerbenoem_Click() {
 std::string frmTavrin04::nieuwe_naam() const {
     const bool eigen = txtSpelNummer.Text().empty();
     const std::string& nummer = eigen ? txtEigenSpelnummer.Text() : txtSpelNummer.Text();
-    return (eigen ? "Spel " : "QVT_Spel ") + drie_cijfers(numeric_value(nummer));
+    return (eigen ? "Spel " : "QVT_Spel ") + drie_cijfers(achterste_cijfers(nummer));
 }
 
 // lblOudNummer keeps the old name, whose folder is gone from here on: another rename on this visit fails.
 void frmTavrin04::herbenoem(const std::string& oud, const std::string& nieuw) {
+    refuse_links(programma.pakketten(), programma.pakket(oud));
+    refuse_links_in(programma.pakket(oud), "*.txt");
     rename_path(programma.pakket(oud), programma.pakket(nieuw));
     filSpellen.Pattern = "*.txt";
     filSpellen.Path = programma.pakket(nieuw);

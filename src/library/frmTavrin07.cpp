@@ -93,11 +93,14 @@ void frmTavrin07::meld_geen_stick() {
     programma.platform.message_box(box_style::kInformation, Caption(), LeesResString(82));
 }
 
-std::string frmTavrin07::stick_map() const {
-    if (usbDrive.empty()) return {};
+std::string frmTavrin07::stick() const {
     std::string stick = lstDriveType.List(lstDriveNaam.find(usbDrive, forms::Match::Exact));
     if (stick.ends_with(kPathSeparator)) stick.pop_back();
-    return join_path(stick, kMapOpStick);
+    return stick;
+}
+
+std::string frmTavrin07::stick_map() const {
+    return usbDrive.empty() ? std::string() : join_path(stick(), kMapOpStick);
 }
 
 std::string frmTavrin07::map_van(const Kant& kant) const {
@@ -110,7 +113,9 @@ void frmTavrin07::LeesExporteer(const Kant& kant) {
         const std::string map = map_van(kant);
         kant.lijst.Clear();
         kant.knop.Enabled = false;
-        if (!map.empty()) Kaarten::vul_met_mappen(kant.lijst, kant.mappen, map, kant.sorteer.Value);
+        if (map.empty()) return;
+        if (&kant == &importeer) refuse_links(stick(), map);
+        Kaarten::vul_met_mappen(kant.lijst, kant.mappen, map, kant.sorteer.Value);
     });
 }
 
@@ -120,12 +125,7 @@ void frmTavrin07::lijst_Click(const Kant& kant) {
             if (cmdFocus.Visible) cmdFocus.SetFocus();
             return;
         }
-        kant.knop.Enabled = false;
-        for (int i = 0; i < kant.lijst.ListCount(); ++i) {
-            if (!kant.lijst.Selected(i)) continue;
-            kant.knop.Enabled = true;
-            break;
-        }
+        kant.knop.Enabled = kant.lijst.SelCount() > 0;
     });
 }
 
@@ -184,24 +184,33 @@ void frmTavrin07::kopieer_selectie(const Kant& kant, const Kant& overkant) {
     const std::string doel = map_van(overkant);
     std::string pad = doel;
     Bas_Aftavrin::MaakPad(pad);
-    refuse_link(stick_map());
     for (int i = 0; i < kant.lijst.ListCount(); ++i) {
         if (!kant.lijst.Selected(i)) continue;
-        const std::string& spel = kant.lijst.List(i);
-        kopieer_spel(join_path(map_van(kant), spel), join_path(doel, spel));
+        kopieer_spel(kant.lijst.List(i), kant, overkant);
         kant.lijst.SetSelected(i, false);
         Refresh();
     }
 }
 
-void frmTavrin07::kopieer_spel(const std::string& van, const std::string& naar) {
-    refuse_link(van);
+// Nothing is written through a link, and nothing read through one on the stick: a stranger's stick leads nowhere. The
+// deals of this installation may lie where the user wants them.
+void frmTavrin07::kopieer_spel(const std::string& spel, const Kant& kant, const Kant& overkant) {
+    const bool inlezen = &kant == &importeer;
+    const std::string van = join_path(map_van(kant), spel);
+    const std::string naar = join_path(map_van(overkant), spel);
+    if (inlezen) refuse_links(stick(), van);
+    refuse_links(inlezen ? programma.pakketten() : stick(), naar);
     std::string pad = naar;
     Bas_Aftavrin::MaakPad(pad);
-    refuse_link(naar);
     filFiles.Path = van;
-    for (int i = 0; i < filFiles.ListCount(); ++i) {
-        copy_file(join_path(van, filFiles.List(i)), join_path(naar, filFiles.List(i)));
+    std::vector<std::string> bestanden;
+    for (int i = 0; i < filFiles.ListCount(); ++i)
+        bestanden.push_back(filFiles.List(i));
+    if (inlezen) refuse_links_named(van, bestanden);
+    refuse_links_named(naar, bestanden);
+    remove_leftovers(naar);
+    for (const std::string& bestand : bestanden) {
+        replace_by_copy(join_path(van, bestand), join_path(naar, bestand), inlezen ? Links::Refuse : Links::Follow);
     }
 }
 

@@ -64,6 +64,8 @@ private:
     void zet_opschriften();
     bool zoek_stick();
     void meld_geen_stick();
+    // The stick's root, without a separator at its end; only while a stick is known.
+    std::string stick() const;
     // The folder of the deals on the stick; empty while none is known.
     std::string stick_map() const;
     std::string map_van(const Kant& kant) const;
@@ -74,7 +76,7 @@ private:
     void chkSorteer_Click(const Kant& kant);
     void knop_Click(const Kant& kant);
     void kopieer_selectie(const Kant& kant, const Kant& overkant);
-    void kopieer_spel(const std::string& van, const std::string& naar);
+    void kopieer_spel(const std::string& spel, const Kant& kant, const Kant& overkant);
     void cmdCheckVoorUSB_Click();
 
     std::string usbDrive;  // the stick's line of lstDriveNaam; empty when there is none

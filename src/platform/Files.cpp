@@ -1,118 +1,169 @@
 #include "platform/Files.h"
 
-#include <dirent.h>
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
 #include <filesystem>
-#include <memory>
+#include <optional>
 #include <system_error>
 #include <utility>
 
 #include "base/Fout.h"
 #include "base/Text.h"
 #include "platform/CodePage.h"
+#include "platform/OpenFile.h"
 #include "platform/Paths.h"
+#include "platform/SystemCalls.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-[[noreturn]] void fail(const std::error_code& error, const fs::path& path) {
-    throw Fout::from(error, path_text(path.filename()));
+constexpr std::size_t kPart = 65536;  // bytes that are read at a time
+constexpr std::string_view kBeside = ".zandolin-nieuw-";
+
+[[noreturn]] void fail(int error, const fs::path& path) {
+    throw Fout::from({error, std::generic_category()}, path_text(path.filename()));
 }
-[[noreturn]] void fail_with_errno(const fs::path& path) { fail({errno, std::generic_category()}, path); }
+
+bool says_absent(int error) { return error == ENOENT || error == ENOTDIR; }
+
+// What a path leads to; nothing where nothing is. A path that cannot be is a failure.
+std::optional<struct stat> status_of(const fs::path& path) {
+    struct stat about {};
+    if (system_calls::status(path.c_str(), about) == 0) return about;
+    if (!says_absent(errno)) fail(errno, path);
+    return std::nullopt;
+}
+
+// The same of a link itself.
+std::optional<struct stat> link_status_of(const fs::path& path) {
+    struct stat about {};
+    if (system_calls::link_status(path.c_str(), about) == 0) return about;
+    if (!says_absent(errno)) fail(errno, path);
+    return std::nullopt;
+}
+
+bool is_link(const fs::path& path) {
+    const auto about = link_status_of(path);
+    return about && S_ISLNK(about->st_mode);
+}
+
+bool is_folder(const fs::path& path) {
+    const auto about = status_of(path.empty() ? "." : path);
+    return about && S_ISDIR(about->st_mode);
+}
 
 // Only plain files are read: a folder, a pipe or a device in a package's place is refused before it is opened.
 fs::path plain_file(std::string_view path) {
     fs::path found = find_case_blind(path);
-    std::error_code error;
-    const fs::file_status status = fs::status(found, error);
-    if (fs::is_regular_file(status)) return found;
-    if (error && error != std::errc::no_such_file_or_directory) fail(error, found);
-    if (fs::exists(status)) throw Fout(FoutNummer::PathAccess, path_text(found.filename()));
-    const bool has_folder = fs::is_directory(found.parent_path(), error) || found.parent_path().empty();
-    throw Fout(has_folder ? FoutNummer::FileNotFound : FoutNummer::PathNotFound, path_text(found.filename()));
+    const auto about = status_of(found);
+    if (about && S_ISREG(about->st_mode)) return found;
+    if (about) throw Fout(FoutNummer::PathAccess, path_text(found.filename()));
+    throw Fout(is_folder(found.parent_path()) ? FoutNummer::FileNotFound : FoutNummer::PathNotFound,
+               path_text(found.filename()));
 }
 
-fs::path writable_target(std::string_view path) {
-    fs::path target = find_case_blind(path);
-    std::error_code ignored;
-    const fs::file_status status = fs::status(target, ignored);
-    if (fs::exists(status) && !fs::is_regular_file(status)) {
-        throw Fout(FoutNummer::PathAccess, path_text(target.filename()));
+// A file to be written: itself if it is there, and what it is then.
+struct Target {
+    fs::path path;
+    std::optional<struct stat> about;
+};
+
+Target writable_target(std::string_view path) {
+    Target target{find_case_blind(path), std::nullopt};
+    target.about = status_of(target.path);
+    if (target.about && !S_ISREG(target.about->st_mode)) {
+        throw Fout(FoutNummer::PathAccess, path_text(target.path.filename()));
     }
     return target;
 }
 
-struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
+// A new file beside its target; `finish` puts it in the target's place, without that it goes again. A target that is
+// reached by a link stays where it is.
+class FileBeside {
+public:
+    explicit FileBeside(Target target) : target_(std::move(target)) {
+        if (target_.about) {
+            OpenFile(target_.path, O_WRONLY);  // one that may not be written is not replaced either
+            if (is_link(target_.path)) target_.path = fs::canonical(target_.path);
+        }
+        for (int number = 0; path_.empty() || link_status_of(path_); ++number) {
+            path_ = target_.path.parent_path() /
+                    (std::string(kBeside) + std::to_string(getpid()) + "-" + std::to_string(number));
+        }
+        file_.emplace(path_, O_WRONLY | O_CREAT | O_EXCL, target_.about ? mode() & 0777U : 0666U);
+    }
+    ~FileBeside() {
+        if (!path_.empty()) system_calls::remove(path_.c_str());
+    }
+    FileBeside(const FileBeside&) = delete;
+    FileBeside& operator=(const FileBeside&) = delete;
+
+    void write(std::string_view bytes) { file_->write(bytes); }
+    void finish() {
+        if (target_.about) file_->set_mode(mode());
+        file_->flush_to_disk();
+        file_->close();
+        if (system_calls::rename(path_.c_str(), target_.path.c_str()) != 0) fail(errno, target_.path);
+        path_.clear();
+    }
+
+private:
+    mode_t mode() const { return target_.about->st_mode & 07777U; }
+
+    Target target_;
+    fs::path path_;
+    std::optional<OpenFile> file_;
 };
-using File = std::unique_ptr<std::FILE, CloseFile>;
 
-File open_file(const fs::path& path, const char* mode) {
-    File file(std::fopen(path.c_str(), mode));
-    if (file) return file;
-    if (errno == ENOENT) throw Fout(FoutNummer::PathNotFound, path_text(path.filename()));
-    fail_with_errno(path);
+void write_straight(std::string_view path, std::string_view bytes, int flags) {
+    OpenFile file(writable_target(path).path, O_WRONLY | O_CREAT | O_NOFOLLOW | flags);
+    file.write(bytes);
+    file.close();
 }
-
-// A link in the file's own place is not followed.
-File open_unlinked(const fs::path& path, int flags, const char* mode) {
-    const int descriptor = ::open(path.c_str(), flags | O_NOFOLLOW | O_CLOEXEC, 0666);
-    if (descriptor >= 0) return File(fdopen(descriptor, mode));
-    if (errno == ENOENT) throw Fout(FoutNummer::PathNotFound, path_text(path.filename()));
-    fail_with_errno(path);
-}
-
-bool same_file(std::FILE* one, std::FILE* other) {
-    struct stat first {};
-    struct stat second {};
-    return fstat(fileno(one), &first) == 0 && fstat(fileno(other), &second) == 0 && first.st_dev == second.st_dev &&
-           first.st_ino == second.st_ino;
-}
-
-void write_all(File file, std::string_view bytes, const fs::path& path, bool flush_to_disk) {
-    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size() &&
-                         std::fflush(file.get()) == 0 && (!flush_to_disk || fsync(fileno(file.get())) == 0);
-    if (!written) fail_with_errno(path);
-    if (std::fclose(file.release()) != 0) fail_with_errno(path);
-}
-
-// A name, and in front of it what it is sorted by.
-using SortedName = std::pair<std::string, std::string>;
 
 struct CloseFolder {
     void operator()(DIR* folder) const { closedir(folder); }
 };
 
-// The kind of an entry as the folder tells it; only where it doesn't, or for a link, the entry itself is asked.
-bool is_of_kind(const fs::path& folder, const dirent& entry, fs::file_type kind) {
-    if (entry.d_type == DT_DIR) return kind == fs::file_type::directory;
-    if (entry.d_type == DT_REG) return kind == fs::file_type::regular;
-    std::error_code ignored;
-    return fs::status(folder / static_cast<const char*>(entry.d_name), ignored).type() == kind;
+template <class Action>
+void for_each_entry(std::string_view folder, Action action) {
+    const fs::path found = find_case_blind(folder);
+    const std::unique_ptr<DIR, CloseFolder> open(system_calls::open_folder(found.c_str()));
+    if (!open && says_absent(errno)) throw Fout(FoutNummer::PathNotFound, std::string(folder));
+    if (!open) fail(errno, found);
+    while (const dirent* entry = system_calls::read_folder(open.get(), found.c_str())) {
+        const std::string_view name = static_cast<const char*>(entry->d_name);
+        if (name != "." && name != "..") action(found, *entry, name);
+    }
+    if (errno != 0) fail(errno, found);
+}
+
+// The kind of an entry as the folder tells it; only where it doesn't, or for a link, the entry itself is asked. A link
+// that leads nowhere is of no kind.
+bool is_of_kind(const fs::path& folder, const dirent& entry, mode_t kind) {
+    if (entry.d_type == DT_DIR) return kind == S_IFDIR;
+    if (entry.d_type == DT_REG) return kind == S_IFREG;
+    const fs::path path = folder / static_cast<const char*>(entry.d_name);
+    struct stat about {};
+    if (system_calls::status(path.c_str(), about) == 0) return (about.st_mode & S_IFMT) == kind;
+    if (!says_absent(errno) && errno != ELOOP && errno != EACCES && errno != ENAMETOOLONG) fail(errno, path);
+    return false;
 }
 
 // Names of the entries of a kind, in ascending order without regard to case.
-std::vector<std::string> names_in(std::string_view folder, fs::file_type kind) {
-    const fs::path found = find_case_blind(folder);
-    const std::unique_ptr<DIR, CloseFolder> open(opendir(found.c_str()));
-    if (!open && (errno == ENOENT || errno == ENOTDIR)) throw Fout(FoutNummer::PathNotFound, std::string(folder));
-    if (!open) fail_with_errno(found);
-
+std::vector<std::string> names_in(std::string_view folder, mode_t kind) {
+    using SortedName = std::pair<std::string, std::string>;  // in front of the name what it is sorted by
     std::vector<SortedName> entries;
-    while (const dirent* entry = readdir(open.get())) {
-        const std::string_view name = static_cast<const char*>(entry->d_name);
-        if (name == "." || name == ".." || !is_of_kind(found, *entry, kind)) continue;
-        std::string text = from_utf8(name);
+    for_each_entry(folder, [&](const fs::path& path, const dirent& entry, std::string_view name) {
+        if (!is_of_kind(path, entry, kind)) return;
+        std::string text = name_text(name);
         std::string key = lower_case(text);
         entries.emplace_back(std::move(key), std::move(text));
-    }
+    });
     std::vector<SortedName*> in_order;
     for (SortedName& entry : entries)
         in_order.push_back(&entry);
@@ -132,49 +183,63 @@ bool matches(const std::string& name, std::string_view pattern) {
     return name.size() >= ending.size() && equal_ignoring_case(right(name, ending.size()), ending);
 }
 
+template <class Concerns>
+void refuse_links_that(std::string_view folder, Concerns concern) {
+    if (!is_folder(find_case_blind(folder))) return;
+    for_each_entry(folder, [&](const fs::path& path, const dirent& entry, std::string_view name) {
+        if (entry.d_type != DT_LNK && (entry.d_type != DT_UNKNOWN || !is_link(path / name))) return;
+        const std::string text = name_text(name);
+        if (concern(text)) throw Fout(FoutNummer::PathAccess, text);
+    });
+}
+
 }  // namespace
 
 std::int64_t file_length(std::string_view path) {
     const fs::path found = find_case_blind(path);
-    std::error_code error;
-    if (!fs::is_regular_file(found, error)) return -1;
-    const std::uintmax_t length = fs::file_size(found, error);
-    return error ? -1 : static_cast<std::int64_t>(length);
+    struct stat about {};
+    if (system_calls::status(found.c_str(), about) == 0) return S_ISREG(about.st_mode) ? about.st_size : -1;
+    if (!says_absent(errno) && errno != ENAMETOOLONG && errno != ELOOP) fail(errno, found);
+    return -1;
 }
 
-bool folder_exists(std::string_view path) {
-    std::error_code ignored;
-    return fs::is_directory(find_case_blind(path), ignored);
-}
+LineReader::LineReader(std::string_view path)
+    : path_(path), file_(std::make_unique<OpenFile>(plain_file(path), O_RDONLY)) {}
 
-LineReader::LineReader(std::string_view path) : path_(path) {
-    const fs::path found = plain_file(path);
-    errno = 0;
-    stream_.open(found, std::ios::binary);
-    if (!stream_) fail_with_errno(found);
-}
+LineReader::~LineReader() = default;
 
-bool LineReader::at_end() { return stream_.peek() == std::ifstream::traits_type::eof(); }
+bool LineReader::at_end() {
+    if (at_ == part_.size() && !ended_) {
+        part_.resize(kPart);
+        at_ = part_.size();
+        part_.resize(file_->read(part_.data(), kPart));
+        at_ = 0;
+        ended_ = part_.empty();
+    }
+    return at_ == part_.size();
+}
 
 std::string LineReader::line() {
+    if (at_end()) throw Fout(FoutNummer::ReadPastEnd, last_part(path_));
     std::string text;
-    if (!std::getline(stream_, text)) {
-        throw Fout(stream_.bad() ? FoutNummer::DeviceError : FoutNummer::ReadPastEnd, last_part(path_));
+    for (bool whole = false; !whole && !at_end();) {
+        const std::size_t end = part_.find('\n', at_);
+        whole = end != std::string::npos;
+        text.append(part_, at_, end - at_);
+        at_ = whole ? end + 1 : part_.size();
     }
     if (text.ends_with('\r')) text.pop_back();
     return text;
 }
 
 std::string read_file(std::string_view path, std::size_t most) {
-    const fs::path found = plain_file(path);
-    const File file = open_file(found, "rb");
+    OpenFile file(plain_file(path), O_RDONLY);
     std::string bytes;
-    for (std::string part(std::min<std::size_t>(most, 65536), '\0'); bytes.size() < most;) {
-        const std::size_t got = std::fread(part.data(), 1, std::min(part.size(), most - bytes.size()), file.get());
+    for (std::string part(std::min(most, kPart), '\0'); bytes.size() < most;) {
+        const std::size_t got = file.read(part.data(), std::min(part.size(), most - bytes.size()));
         if (got == 0) break;
         bytes.append(part, 0, got);
     }
-    if (std::ferror(file.get())) throw Fout(FoutNummer::DeviceError, last_part(path));
     return bytes;
 }
 
@@ -194,95 +259,96 @@ std::vector<std::string> read_records(std::string_view path, std::size_t length,
 }
 
 void write_records(std::string_view path, std::size_t length, const std::vector<std::string>& texts) {
-    const fs::path target = writable_target(path);
     std::string bytes;
     for (const std::string& text : texts)
         bytes += record_bytes(text, length);
-    std::error_code ignored;
-    write_all(open_file(target, fs::exists(target, ignored) ? "r+b" : "wb"), bytes, target, false);
+    write_straight(path, bytes, 0);
 }
 
-void write_file(std::string_view path, std::string_view bytes) {
-    const fs::path target = writable_target(path);
-    write_all(open_file(target, "wb"), bytes, target, false);
-}
+void write_file(std::string_view path, std::string_view bytes) { write_straight(path, bytes, O_TRUNC); }
+void copy_file(std::string_view from, std::string_view to) { write_file(to, read_file(from)); }
 
 void replace_file(std::string_view path, std::string_view bytes) {
-    const fs::path target = writable_target(path);
-    fs::path beside = target;
-    beside += ".nieuw";
-    File file = open_file(beside, "wb");
-    try {
-        write_all(std::move(file), bytes, beside, true);
-        std::error_code error;
-        fs::rename(beside, target, error);
-        if (error) fail(error, target);
-    } catch (...) {
-        std::error_code ignored;
-        fs::remove(beside, ignored);
-        throw;
-    }
+    FileBeside beside(writable_target(path));
+    beside.write(bytes);
+    beside.finish();
+}
+
+void replace_by_copy(std::string_view from, std::string_view to, Links links_in_from) {
+    OpenFile source(plain_file(from), O_RDONLY | (links_in_from == Links::Refuse ? O_NOFOLLOW : 0));
+    Target target = writable_target(to);
+    const struct stat about = source.status();
+    if (target.about && target.about->st_dev == about.st_dev && target.about->st_ino == about.st_ino) return;
+    FileBeside beside(std::move(target));
+    std::string part(kPart, '\0');
+    while (const std::size_t got = source.read(part.data(), part.size()))
+        beside.write(std::string_view(part).substr(0, got));
+    beside.finish();
+}
+
+void remove_leftovers(std::string_view folder, FileTime older_than) {
+    for_each_entry(folder, [&](const fs::path& path, const dirent&, std::string_view name) {
+        if (!name.starts_with(kBeside)) return;
+        const fs::path left = path / name;
+        const auto about = link_status_of(left);
+        if (!about || !S_ISREG(about->st_mode)) return;
+        if (std::chrono::system_clock::from_time_t(about->st_mtime) >= older_than) return;
+        if (system_calls::remove(left.c_str()) != 0) fail(errno, left);
+    });
 }
 
 void delete_file(std::string_view path) {
     const fs::path found = find_case_blind(path);
-    std::error_code error;
-    if (!fs::remove(found, error)) {
-        fail(error ? error : std::make_error_code(std::errc::no_such_file_or_directory), found);
-    }
+    if (system_calls::remove(found.c_str()) != 0) fail(errno, found);
 }
 
 void remove_folder(std::string_view path) {
     const fs::path found = find_case_blind(path);
-    if (rmdir(found.c_str()) == 0) return;
-    if (errno == ENOENT) throw Fout(FoutNummer::PathNotFound, path_text(found.filename()));
-    throw Fout(FoutNummer::PathAccess, path_text(found.filename()));
-}
-
-void refuse_link(std::string_view path) {
-    std::error_code ignored;
-    if (fs::is_symlink(find_case_blind(path), ignored)) throw Fout(FoutNummer::PathAccess, last_part(path));
-}
-
-void copy_file(std::string_view from, std::string_view to) {
-    const fs::path source_path = plain_file(from);
-    const fs::path target_path = writable_target(to);
-    const File source = open_unlinked(source_path, O_RDONLY, "rb");
-    File target = open_unlinked(target_path, O_WRONLY | O_CREAT, "wb");
-    if (same_file(source.get(), target.get())) return;
-    if (ftruncate(fileno(target.get()), 0) != 0) fail_with_errno(target_path);
-    std::string part(65536, '\0');
-    while (const std::size_t got = std::fread(part.data(), 1, part.size(), source.get())) {
-        if (std::fwrite(part.data(), 1, got, target.get()) != got) fail_with_errno(target_path);
-    }
-    if (std::ferror(source.get())) throw Fout(FoutNummer::DeviceError, last_part(from));
-    if (std::fclose(target.release()) != 0) fail_with_errno(target_path);
+    if (system_calls::remove_folder(found.c_str()) == 0) return;
+    throw Fout(errno == ENOENT ? FoutNummer::PathNotFound : FoutNummer::PathAccess, path_text(found.filename()));
 }
 
 void rename_path(std::string_view from, std::string_view to) {
     const fs::path source = find_case_blind(from);
     const fs::path target = find_case_blind(to);
-    std::error_code error;
-    if (!fs::exists(fs::symlink_status(source, error))) throw Fout(FoutNummer::FileNotFound, last_part(from));
-    if (fs::exists(fs::symlink_status(target, error))) throw Fout(FoutNummer::FileExists, last_part(to));
-    fs::rename(source, target, error);
-    if (error) fail(error, source);
+    if (!link_status_of(source)) throw Fout(FoutNummer::FileNotFound, last_part(from));
+    if (link_status_of(target)) throw Fout(FoutNummer::FileExists, last_part(to));
+    if (system_calls::rename(source.c_str(), target.c_str()) != 0) fail(errno, source);
 }
 
-void make_folder(std::string_view path) {
-    std::error_code error;
-    const fs::path target = find_case_blind(path);
-    fs::create_directory(target, error);
-    if (error == std::errc::no_such_file_or_directory) {
-        throw Fout(FoutNummer::PathNotFound, path_text(target.filename()));
+void make_folders(std::string_view path) {
+    std::string found = find_case_blind(path).string();
+    for (std::size_t at = found.find(kPathSeparator, 1); at != std::string::npos;
+         at = found.find(kPathSeparator, at + 1)) {
+        found[at] = '\0';
+        system_calls::make_folder(found.c_str());
+        found[at] = kPathSeparator;
     }
-    if (error) fail(error, target);
+    system_calls::make_folder(found.c_str());
 }
 
-std::vector<std::string> subfolders_of(std::string_view folder) { return names_in(folder, fs::file_type::directory); }
+void refuse_links(std::string_view root, std::string_view path) {
+    fs::path found = find_case_blind(path);
+    for (auto parts = std::ranges::count(path.substr(root.size()), kPathSeparator); parts > 0; --parts) {
+        if (is_link(found)) throw Fout(FoutNummer::PathAccess, path_text(found.filename()));
+        found = found.parent_path();
+    }
+}
+
+void refuse_links_named(std::string_view folder, const std::vector<std::string>& names) {
+    refuse_links_that(folder, [&](const std::string& link) {
+        return std::ranges::any_of(names, [&](const std::string& name) { return equal_ignoring_case(name, link); });
+    });
+}
+
+void refuse_links_in(std::string_view folder, std::string_view pattern) {
+    refuse_links_that(folder, [&](const std::string& link) { return matches(link, pattern); });
+}
+
+std::vector<std::string> subfolders_of(std::string_view folder) { return names_in(folder, S_IFDIR); }
 
 std::vector<std::string> files_of(std::string_view folder, std::string_view pattern) {
-    std::vector<std::string> files = names_in(folder, fs::file_type::regular);
+    std::vector<std::string> files = names_in(folder, S_IFREG);
     std::erase_if(files, [&](const std::string& name) { return hidden(name) || !matches(name, pattern); });
     return files;
 }

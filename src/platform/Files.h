@@ -1,55 +1,79 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
-#include <fstream>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
+
+class OpenFile;
 
 // The work on files and folders. Every path is looked up without regard to case (see Paths.h). Failures: 53 no such
 // file, 58 the target exists, 61 the disk is full, 70 no permission, 75 no plain file or no access, 76 no such folder,
 // 57 any other error of the device.
 
+// Whether a link in the place of a file is taken for the file that it leads to, or refused (75).
+enum class Links { Follow, Refuse };
+
 // Length in bytes of a plain file; -1 if there is none.
 std::int64_t file_length(std::string_view path);
-bool folder_exists(std::string_view path);
 
-// Reads a text file line by line. A line ends in CR LF or LF, the last one may end with the file.
+// Reads a text file line by line. A line ends in CR LF or LF, the last one may end with the file. A read that fails is
+// a failure (57), never the end.
 class LineReader {
 public:
     explicit LineReader(std::string_view path);
+    ~LineReader();
     bool at_end();
     std::string line();  // failure 62 past the end
 
 private:
-    std::ifstream stream_;
     std::string path_;
+    std::unique_ptr<OpenFile> file_;
+    std::string part_;  // what was read last
+    std::size_t at_ = 0;
+    bool ended_ = false;
 };
 
 // The records 1 to `count` of a file of fixed records, each padded with blanks where the file is too short.
 std::vector<std::string> read_records(std::string_view path, std::size_t length, int count);
-// Puts each text into its record, from the first on: padded with blanks, cut at the record's length. What the file
-// holds behind the last of them stays.
+// Puts each text straight into its record, from the first on: padded with blanks, cut at the record's length. What the
+// file holds behind the last of them stays.
 void write_records(std::string_view path, std::size_t length, const std::vector<std::string>& texts);
 // The bytes of one such record.
 std::string record_bytes(std::string_view text, std::size_t length);
 
 // The whole file; up to `most` bytes of it.
 std::string read_file(std::string_view path, std::size_t most = static_cast<std::size_t>(-1));
-// Writes straight into the file, which is emptied first.
+// Writes straight into the file, which is emptied first. A link in its place is refused.
 void write_file(std::string_view path, std::string_view bytes);
-// Writes beside the file, flushes, and renames over it: a failure leaves the old file as it was.
+// The same with the bytes of another file, which are read before anything is emptied.
+void copy_file(std::string_view from, std::string_view to);
+
+// Two that write beside the file, flush to the disk, and rename over it with its mode: whatever happens, the old file
+// or the new one is there whole. A file that may not be written is refused (70). The file beside has a hidden name of
+// its own.
 void replace_file(std::string_view path, std::string_view bytes);
+void replace_by_copy(std::string_view from, std::string_view to, Links links_in_from);
+// Removes files beside that were left behind in the folder, if they are older than that.
+using FileTime = std::chrono::system_clock::time_point;
+void remove_leftovers(std::string_view folder, FileTime older_than = FileTime::max());
 
 void delete_file(std::string_view path);
 void remove_folder(std::string_view path);  // an empty one
-// Failure 75 where a link stands in the path's place: what a stranger's stick holds must not lead elsewhere.
-void refuse_link(std::string_view path);
-// Overwrites what is there. A link in the place of either file is refused (75), never followed.
-void copy_file(std::string_view from, std::string_view to);
 // Of a file or a folder; a target that exists is failure 58.
 void rename_path(std::string_view from, std::string_view to);
-void make_folder(std::string_view path);
+// Makes every folder of the path that is missing, as far as that goes; a folder that can't be made is no failure here.
+void make_folders(std::string_view path);
+
+// Failure 75 where what stands below the folder `root` on the way to `path`, or in its place, is a link: what is
+// written, deleted or taken from a stranger there must not lie elsewhere. The path begins with the root's.
+void refuse_links(std::string_view root, std::string_view path);
+// The same where a link in the folder has one of the names, in whatever case, or any name of a pattern, hidden ones
+// too. A folder that is not there has none.
+void refuse_links_named(std::string_view folder, const std::vector<std::string>& names);
+void refuse_links_in(std::string_view folder, std::string_view pattern);
 
 // Names of the subfolders, and of the plain files that are not hidden; in ascending order without regard
 // to case. `pattern` is "*" or "*.ending".

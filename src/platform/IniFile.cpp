@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "base/Fout.h"
 #include "base/Text.h"
 #include "platform/Files.h"
 
@@ -31,11 +32,20 @@ std::vector<std::string> lines_of(std::string_view file) {
     return lines;
 }
 
+// A file that can't be read has no settings.
+std::vector<std::string> lines_or_none(std::string_view file) {
+    try {
+        return lines_of(file);
+    } catch (const Fout&) {
+        return {};
+    }
+}
+
 }  // namespace
 
 std::string read_setting(std::string_view file, std::string_view section, std::string_view key) {
     bool inside = false;
-    for (const std::string& line : lines_of(file)) {
+    for (const std::string& line : lines_or_none(file)) {
         if (begins_any_section(line)) {
             inside = begins_section(line, section);
         } else if (inside && is_setting(line, key)) {

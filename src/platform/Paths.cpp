@@ -1,47 +1,57 @@
 #include "platform/Paths.h"
 
-#include <dirent.h>
-
+#include <algorithm>
+#include <cerrno>
 #include <memory>
 #include <system_error>
 
+#include "base/Fout.h"
 #include "base/Text.h"
 #include "platform/CodePage.h"
+#include "platform/SystemCalls.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-fs::path native(std::string_view text) {
-    const std::string utf8 = to_utf8(text);
-    return fs::path(std::u8string(utf8.begin(), utf8.end()));
+[[noreturn]] void fail(const std::string& path) {
+    throw Fout::from({errno, std::generic_category()}, path_text(fs::path(path).filename()));
 }
 
-bool there(const fs::path& path) {
-    std::error_code ignored;
-    return fs::exists(fs::symlink_status(path, ignored));
+// A path that cannot be is not there; whether another is, must be known.
+bool there(const std::string& path) {
+    struct stat about {};
+    if (system_calls::link_status(path.c_str(), about) == 0) return true;
+    if (errno != ENOENT && errno != ENOTDIR && errno != ENAMETOOLONG && errno != ELOOP) fail(path);
+    return false;
 }
 
 struct CloseFolder {
     void operator()(DIR* folder) const { closedir(folder); }
 };
 
-// The first entry whose name is equal without regard to case; an empty path for none.
-fs::path entry_of(const fs::path& folder, const fs::path& name) {
-    const std::string wanted = path_text(name);
-    const std::unique_ptr<DIR, CloseFolder> open(opendir(folder.empty() ? "." : folder.c_str()));
-    while (const dirent* entry = open ? readdir(open.get()) : nullptr) {
+// The first entry whose name is equal without regard to case; empty for none.
+std::string entry_of(const std::string& folder, std::string_view name) {
+    const std::string wanted = name_text(name);
+    const std::unique_ptr<DIR, CloseFolder> open(system_calls::open_folder(folder.c_str()));
+    if (!open && (errno == ENOENT || errno == ENOTDIR)) return {};
+    if (!open) fail(folder);
+    while (const dirent* entry = system_calls::read_folder(open.get(), folder.c_str())) {
         const char* spelled = static_cast<const char*>(entry->d_name);
-        if (equal_ignoring_case(from_utf8(spelled), wanted)) return folder / spelled;
+        if (equal_ignoring_case(name_text(spelled), wanted)) return spelled;
     }
+    if (errno != 0) fail(folder);
     return {};
 }
 
-fs::path find(const fs::path& exact) {
-    if (there(exact) || !exact.has_relative_path()) return exact;
-    const fs::path folder = find(exact.parent_path());
-    const fs::path spelled_otherwise = entry_of(folder, exact.filename());
-    return spelled_otherwise.empty() ? folder / exact.filename() : spelled_otherwise;
+// How much of the path, which is not there, is there as it is spelled.
+std::size_t known_part(const std::string& path) {
+    std::string part = path;
+    do {
+        const std::size_t separator = part.rfind(kPathSeparator);
+        part.resize(separator == std::string::npos ? 0 : separator);
+    } while (!part.empty() && !there(part));
+    return part.size();
 }
 
 }  // namespace
@@ -54,7 +64,23 @@ std::string last_part(std::string_view path) { return std::string(path.substr(pa
 
 std::string path_text(const fs::path& path) {
     const std::u8string utf8 = path.u8string();
-    return from_utf8(std::string(utf8.begin(), utf8.end()));
+    return name_text(std::string(utf8.begin(), utf8.end()));
 }
 
-fs::path find_case_blind(std::string_view path) { return find(native(path)); }
+fs::path find_case_blind(std::string_view path) {
+    const std::string exact = name_bytes(path);
+    if (exact.empty() || there(exact)) return exact;
+    std::string found = exact.substr(0, known_part(exact));
+    for (std::size_t at = found.size(); at < exact.size();) {
+        const std::size_t begin = exact[at] == kPathSeparator ? at + 1 : at;
+        const std::size_t end = std::min(exact.find(kPathSeparator, begin), exact.size());
+        const std::string name = exact.substr(begin, end - begin);
+        const std::string folder = !found.empty() ? found : begin > at ? std::string(1, kPathSeparator) : ".";
+        if (begin > at) found += kPathSeparator;
+        const std::string spelled = name.empty() || there(found + name) ? name : entry_of(folder, name);
+        if (spelled.empty() && !name.empty()) return found.append(exact, begin);
+        found += spelled;
+        at = end;
+    }
+    return found;
+}

@@ -15,5 +15,5 @@ std::string special_folder_of(const std::string& program_folder, int number) {
     if (!set.empty()) return std::filesystem::path(set).is_absolute() ? set : join_path(program_folder, set);
     const char* home = std::getenv("HOME");
     if (!home) return {};
-    return from_utf8(home) + (x86 ? "/.wine/drive_c/Program Files (x86)" : "/.wine/drive_c/Program Files");
+    return name_text(home) + (x86 ? "/.wine/drive_c/Program Files (x86)" : "/.wine/drive_c/Program Files");
 }

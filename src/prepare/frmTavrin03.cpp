@@ -116,7 +116,7 @@ void frmTavrin03::lees_sorteerkeuzen() {
     for (forms::CheckBox* keuze : {&chkSorteerRVLX, &chkSorteerTavrin}) {
         const std::string waarde =
             Bas_Aftavrin::LeesIni(programma, "Standaard", keuze->name(), programma.instellingen());
-        keuze->Value = waarde.empty() ? 0 : numeric_value(waarde);
+        keuze->Value = numeric_value(waarde) == 0 ? 0 : 1;
     }
 }
 

@@ -149,6 +149,9 @@ private:
     // Opslaan.
     void stel_speelrijen_op();
     void schrijf_speelbestanden(const std::string& stam);
+    void schrijf_tekst(const std::string& pad, const forms::TextBox& doos);
+
+    bool tekstenGelezen = true;  // both texts of the deal on the screen were taken up
     int code_van_cel(const std::string& tekst) const;
 };
 

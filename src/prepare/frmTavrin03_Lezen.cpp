@@ -29,6 +29,7 @@ std::string zonder_regeleinde_vooraan(const std::string& tekst) {
 }  // namespace
 
 void frmTavrin03::LeesRVLXSpelIn() {
+    tekstenGelezen = false;
     Foutpad("frmTavrin03 - General - LeesRVLXSpelIn", [&] {
         const std::string map = join_path(join_path(RVLXMap, "spellen"), gedeeld.spelNaam);
         const Bron bron{join_path(map, gedeeld.spelNaam), gedeeld.spelNaam, "\r\n", false, kInSlag};
@@ -42,11 +43,13 @@ void frmTavrin03::LeesRVLXSpelIn() {
             // Two characters go without a test: a text that doesn't begin with a line break loses two letters.
             doos->Text = middle(met_regeleinden(lstKnipTekst), 3);
         }
+        tekstenGelezen = true;
         bepaal_troef();
     });
 }
 
 void frmTavrin03::LeesSpelIn() {
+    tekstenGelezen = false;
     Foutpad("frmTavrin03 - General - LeesSpelIn", [&] {
         const Bron bron{join_path(gedeeld.spelMap, gedeeld.spelNaam), lstAfTavrin.Text() + " ", "\n", true,
                         prepare::kUitkomstVanPakket};
@@ -61,6 +64,7 @@ void frmTavrin03::LeesSpelIn() {
         }
         for (forms::TextBox* doos : {&txtVraag, &txtAntwoord})
             doos->Text = zonder_regeleinde_vooraan(doos->Text());
+        tekstenGelezen = true;
         Kaarten::ToonBieding(*this, *this);
     });
 }
@@ -74,7 +78,7 @@ void frmTavrin03::knip_tot_regels(const std::string& tekst) {
 // What both readers do alike. False if the deal was refused.
 bool frmTavrin03::lees_spel(const Bron& bron) {
     maak_scherm_leeg();
-    if (Bas_Aftavrin::BestandStatus(bron.stam + " Contract.txt") != 1) {
+    if (!Kaarten::aanwezig(bron.stam + " Contract.txt")) {
         programma.platform.message_box(box_style::kInformation, Caption(),
                                        bron.geweigerd + replaced(LeesResString(10033), "|", bron.regeleinde));
         return false;

@@ -23,16 +23,19 @@ void frmTavrin03::cmdOpslaan_Click() {
         if (gedeeld.spelMapKopie.ends_with(kPathSeparator)) gedeeld.spelMapKopie.pop_back();
 
         const std::string stam = join_path(gedeeld.spelMapKopie, gedeeld.spelNaam);
-        const bool bestaat = Bas_Aftavrin::BestandStatus(stam + " aftavrin.txt") == 1;
+        const bool bestaat = Kaarten::aanwezig(stam + " aftavrin.txt");
         if (bestaat) {
             const std::string vraag = replaced(replaced(LeesResString(10050), "~", lstAfTavrin.Text()), "|", "\n");
             if (programma.platform.message_box(box_style::kQuestion, Caption(), vraag) == Answer::No) return;
         }
         stel_speelrijen_op();
+        // Nothing is written where a link would lead out of the package.
+        refuse_links(programma.pakketten(), gedeeld.spelMapKopie);
+        refuse_links_in(gedeeld.spelMapKopie, "*.txt");
         schrijf_speelbestanden(stam);
         if (bestaat) {
-            write_file(stam + " Vraag.txt", txtVraag.Text());
-            write_file(stam + " Antwoord.txt", txtAntwoord.Text());
+            schrijf_tekst(stam + " Vraag.txt", txtVraag);
+            schrijf_tekst(stam + " Antwoord.txt", txtAntwoord);
         } else if (!lstRVLX.Text().empty()) {
             filSpellen.Pattern = "*.txt";
             filSpellen.Path = join_path(gedeeld.spelMap, lstRVLX.Text());
@@ -43,6 +46,11 @@ void frmTavrin03::cmdOpslaan_Click() {
         }
         LeesAftavrinSpellen();
     });
+}
+
+// A text that could not be read stays as it is on the disk, as long as nobody typed another.
+void frmTavrin03::schrijf_tekst(const std::string& pad, const forms::TextBox& doos) {
+    if (tekstenGelezen || !doos.Text().empty()) write_file(pad, doos.Text());
 }
 
 // One line a trick: the order of the seats, and the cards in the order of the columns. Nobody checks that the grid is

@@ -1,4 +1,5 @@
 // Taking up a stored package again, with its whole play.
+#include "base/Zolang.h"
 #include "cards/Kaarten.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
@@ -10,8 +11,9 @@ using prepare::kHoogste;
 using prepare::kInSlag;
 
 void frmTavrin03::lstAfTavrin_Click() {
+    if (lstAfTavrin.ListIndex == -1) return;
+    bool opgenomen = false;
     Foutpad("frmTavrin03 - lstAftavrin - Click", [&] {
-        if (lstAfTavrin.ListIndex == -1) return;
         MaakLabelSchoon();
         lstAfTavrin.Tag = "";
         txtVraag.Text = "";
@@ -23,8 +25,8 @@ void frmTavrin03::lstAfTavrin_Click() {
         gedeeld.spelNaam = lstAfTavrin.Text();
         lstAfTavrin.Tag = std::to_string(lstAfTavrin.ListIndex);
         LeesSpelIn();
-        if (Bas_Aftavrin::BestandStatus(join_path(gedeeld.spelMap, lstAfTavrin.Text() + " aftavrin.txt")) == 1) {
-            LeesModus = true;
+        if (Kaarten::aanwezig(join_path(gedeeld.spelMap, lstAfTavrin.Text() + " aftavrin.txt"))) {
+            const Zolang leest(LeesModus, true);
             lstVoorWissen.Clear();
             speel_rijen_na();
             sluit_laatste_slag();
@@ -37,9 +39,11 @@ void frmTavrin03::lstAfTavrin_Click() {
                 lstAfTavrin.Text() + " " + replaced(LeesResString(10033), "|", "\n"));
         }
         gedeeld.uitkomstVast = true;
-        LeesModus = false;
         cmdFocus.SetFocus();
+        opgenomen = true;
     });
+    // The grid then holds half a play at most: it must not be saved over the package that it stands for.
+    if (!opgenomen) cmdOpslaan.Enabled = false;
 }
 
 void frmTavrin03::speel_rijen_na() {
@@ -75,7 +79,7 @@ void frmTavrin03::sluit_laatste_slag() {
 }
 
 std::string frmTavrin03::cel_tekst(const std::string& kaartcode) const {
-    const int nummer = numeric_value(kaartcode) - kaart::kCodeBasis;
+    const int nummer = kaart::nummer_van(kaartcode);
     return LeesResString(kaart::gegevens(kaart::kleur_van(nummer)).letter) + " " +
            Kaarten::waarde_letter(*this, nummer);
 }

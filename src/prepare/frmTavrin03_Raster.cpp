@@ -1,4 +1,5 @@
 // Taking the play back by a click in the grid.
+#include "base/Zolang.h"
 #include "cards/Kaarten.h"
 #include "prepare/frmTavrin03.h"
 #include "services/Bas_Aftavrin.h"
@@ -49,11 +50,10 @@ void frmTavrin03::terug_naar_slag(int rij) {
         GevraagdeKleur = left(msfgTavrin.cell(rij - 1, uitkomer).text, 1);
         int laatste = kaart::vorige_plaats(uitkomer);
         msfgTavrin.Col = laatste;
-        HerberekenSlag = true;
+        const Zolang herberekent(HerberekenSlag, true);
         VolgendeKaart(laatste, msfgTavrin.Text(), msfgTavrin.Row);
     }
     msfgTavrin.Visible = true;
-    HerberekenSlag = false;
     cmdFocus.SetFocus();
 }
 
@@ -100,7 +100,7 @@ void frmTavrin03::terug_naar_uitkomst_van_pakket() {
     elk_label([](forms::Label& label) { label.BackColor = kInHand; });
     wis_cellen_vanaf(1);
     const std::string pad = Kaarten::bestand(gedeeld, " uitkomst.txt");
-    if (Bas_Aftavrin::BestandStatus(pad) == 1) {
+    if (Kaarten::aanwezig(pad)) {
         gedeeld.regel = Kaarten::eerste_regel(pad);
         gedeeld.delen = split(gedeeld.regel, " - ");
     }
@@ -120,9 +120,10 @@ void frmTavrin03::terug_naar_uitkomst_van_pakket() {
         msfgTavrin.SetText(kaart);
         msfgTavrin.SetCellBackColor(kInSlag);
         int speler = uitkomer;
-        HerberekenSlag = true;
-        VolgendeKaart(speler, msfgTavrin.Text(), msfgTavrin.Row);
-        HerberekenSlag = false;
+        {
+            const Zolang herberekent(HerberekenSlag, true);
+            VolgendeKaart(speler, msfgTavrin.Text(), msfgTavrin.Row);
+        }
         const auto kleur = kleur_van_letter(left(kaart, 1));
         for (int i = 0; kleur && i <= kHoogste; ++i) {
             if (!(rij(uitkomer, *kleur)(i).Caption == right(kaart, 1))) continue;

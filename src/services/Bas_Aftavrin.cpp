@@ -64,15 +64,19 @@ std::string ZoekRVLX(Programma& programma) {
     return {};
 }
 
-int BestandStatus(const std::string& pad) { return file_length(pad) > 0 ? 1 : 0; }
+int BestandStatus(const std::string& pad) {
+    try {
+        return file_length(pad) > 0 ? 1 : 0;
+    } catch (const Fout&) {
+        return 0;
+    }
+}
 
 void MaakPad(std::string& pad) {
     if (!pad.ends_with(kPathSeparator)) pad += kPathSeparator;
-    for (std::size_t at = pad.find(kPathSeparator, 1); at != std::string::npos; at = pad.find(kPathSeparator, at + 1)) {
-        try {
-            make_folder(pad.substr(0, at));
-        } catch (const std::exception&) {  // A folder that can't be made shows up when it is used.
-        }
+    try {
+        make_folders(pad);
+    } catch (const Fout&) {  // A folder that can't be made shows up when it is used.
     }
 }
 

@@ -32,7 +32,7 @@ std::string GetSpecialfolder(Programma& programma, int nummer);
 // The program-files folder that holds the companion program, told by its executable; empty if there is none.
 std::string ZoekRVLX(Programma& programma);
 
-// 1 for a file with a length above 0, otherwise 0. No failure.
+// 1 for a file with a length above 0, otherwise 0, also where that cannot be told.
 int BestandStatus(const std::string& pad);
 // Makes every folder of the path that is missing; failures are ignored. Adds a separator to the path if none ends it.
 void MaakPad(std::string& pad);

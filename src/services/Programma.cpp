@@ -1,6 +1,8 @@
 #include "services/Programma.h"
 
-#include "platform/Files.h"
+#include <utility>
+
+#include "base/Fout.h"
 #include "platform/Paths.h"
 
 std::vector<std::string> Programma::Mappen::subfolders(const std::string& folder) { return subfolders_of(folder); }
@@ -14,5 +16,22 @@ Programma::Programma(Platform& on_platform, forms::Host& host)
 
 std::string Programma::pad(std::string_view naam) const { return join_path(platform.program_folder(), naam); }
 std::string Programma::pakket(std::string_view spel) const { return join_path(pakketten(), spel); }
+
+void Programma::ruim_resten_op() {
+    if (std::exchange(opgeruimd_, true)) return;
+    const auto ruim_op = [&](const std::string& wortel, const std::string& map) {
+        try {
+            refuse_links(wortel, map);
+            remove_leftovers(map, begonnen_);
+        } catch (const Fout&) {  // What cannot go stays hidden.
+        }
+    };
+    ruim_op(platform.program_folder(), platform.program_folder());
+    try {
+        for (const std::string& spel : subfolders_of(pakketten()))
+            ruim_op(pakketten(), pakket(spel));
+    } catch (const Fout&) {
+    }
+}
 
 void beeindig_programma() { throw forms::EndOfProgram(); }

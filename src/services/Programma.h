@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "forms/Windows.h"
+#include "platform/Files.h"
 #include "platform/Platform.h"
 #include "services/Gedeeld.h"
 #include "services/Schermen.h"
@@ -54,6 +55,14 @@ public:
     // Folder of all packages, or of the package of that name.
     std::string pakketten() const { return pad("aftavrin"); }
     std::string pakket(std::string_view spel) const;
+
+    // Removes, once in a run, what a program that was broken off left beside its files before this one began. Failures
+    // are ignored.
+    void ruim_resten_op();
+
+private:
+    FileTime begonnen_ = std::chrono::system_clock::now();
+    bool opgeruimd_ = false;
 };
 
 // Ends the program: no statement after it runs.

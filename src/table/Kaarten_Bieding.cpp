@@ -55,7 +55,7 @@ void ZetPositieBieding(frmTavrin02& tafel) {
 void ToonBieding(Scherm& scherm, BiedingPaneel& paneel) {
     scherm.Foutpad("Kaarten - General - ToonBieding", [&] {
         const std::string pad = bestand(scherm.gedeeld, " bieding.txt");
-        if (Bas_Aftavrin::BestandStatus(pad) == 1) {
+        if (aanwezig(pad)) {
             LineReader regels(pad);
             regels.line();
             for (std::size_t plaats = 0; plaats < 4; ++plaats) {

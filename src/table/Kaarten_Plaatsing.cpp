@@ -112,7 +112,7 @@ void toon_nummer(frmTavrin02& tafel) {
 void toon_contract(frmTavrin02& tafel) {
     Gedeeld& gedeeld = tafel.gedeeld;
     const std::string pad = bestand(gedeeld, " contract.txt");
-    if (Bas_Aftavrin::BestandStatus(pad) != 1) return;
+    if (!aanwezig(pad)) return;
     gedeeld.regel = eerste_regel(pad);
     gedeeld.delen = split(gedeeld.regel, " ");
     tafel.lblContractWie.Caption = gedeeld.delen[0] + ": " + gedeeld.delen[1];
@@ -135,7 +135,7 @@ void toon_contract(frmTavrin02& tafel) {
 void toon_uitkomst(frmTavrin02& tafel) {
     Gedeeld& gedeeld = tafel.gedeeld;
     const std::string pad = bestand(gedeeld, " uitkomst.txt");
-    if (Bas_Aftavrin::BestandStatus(pad) != 1) return;
+    if (!aanwezig(pad)) return;
     gedeeld.regel = eerste_regel(pad);
     gedeeld.delen = split(gedeeld.regel, " - ");
     const std::string& kaart = gedeeld.delen[1];

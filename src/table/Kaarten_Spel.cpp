@@ -57,7 +57,7 @@ void PlaatdeUitkomst(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - PlaatdeUitkomst", [&] {
         Gedeeld& gedeeld = tafel.gedeeld;
         const std::string pad = bestand(gedeeld, " uitkomst.txt");
-        if (Bas_Aftavrin::BestandStatus(pad) == 1) gedeeld.regel = eerste_regel(pad);
+        if (aanwezig(pad)) gedeeld.regel = eerste_regel(pad);
         gedeeld.delen = split(gedeeld.regel, " - ");
         const int code = code_van_uitkomst(gedeeld.delen[1]);
         const int uitkomer = plaats_van_woord(tafel, gedeeld.delen[0]);
@@ -106,7 +106,7 @@ void ToonGespeeldeKaart(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - ToonGespeeldeKaart", [&] {
         const Gedeeld& gedeeld = tafel.gedeeld;
         const int slag = gedeeld.slagRij + 1;
-        const int nummer = numeric_value(speelrij(tafel)[gedeeld.aanDeBeurt]) - kaart::kCodeBasis;
+        const int nummer = kaart::nummer_van(speelrij(tafel)[gedeeld.aanDeBeurt]);
         const kaart::Kleur kleur = kaart::kleur_van(nummer);
 
         forms::PictureBox& symbool = frmTavrin02::van_plaats(tafel.picGespeeld, gedeeld.aanDeBeurt)(slag);

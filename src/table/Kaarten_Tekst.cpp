@@ -63,7 +63,7 @@ void LeesVraag(frmTavrin02& tafel) {
         vraag.Height = tafel.hand(3)(1).bottom() - vraag.Top;
 
         const std::string pad = bestand(tafel.gedeeld, " vraag.txt");
-        if (Bas_Aftavrin::BestandStatus(pad) == 1) {
+        if (aanwezig(pad)) {
             std::string& regel = tafel.gedeeld.regel;
             std::string tekst;
             for (LineReader regels(pad); !regels.at_end();) {

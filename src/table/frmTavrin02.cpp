@@ -1,5 +1,6 @@
 #include "table/frmTavrin02.h"
 
+#include "base/Zolang.h"
 #include "cards/Kaarten.h"
 #include "resources/PictureTable.h"
 #include "services/Bas_Aftavrin.h"
@@ -235,7 +236,7 @@ void frmTavrin02::zet_gespeelde_kaarten_klaar() {
 }
 
 void frmTavrin02::lees_snelheid() {
-    bezigMetLaden = true;
+    const Zolang laadt(bezigMetLaden, true);
     gedeeld.speelSnelheid = kGewoneSnelheid;
     const std::string waarde = Bas_Aftavrin::LeesIni(programma, "Standaard", "Snelheid", programma.instellingen());
     if (!waarde.empty()) gedeeld.speelSnelheid = numeric_value(waarde);
@@ -246,7 +247,6 @@ void frmTavrin02::lees_snelheid() {
     vscrSnelHeid.Max = lstSnelheid.ListCount();
     vscrSnelHeid.Min = -1;
     txtSnelHeid.Text = std::to_string(gedeeld.speelSnelheid);
-    bezigMetLaden = false;
 }
 
 // The parts of the speed box stand from its right edge leftwards, and the box left of the start button.

@@ -1,6 +1,7 @@
 // The editor of the texts, and the overview.
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <map>
 #include <random>
@@ -8,6 +9,7 @@
 #include "base/Text.h"
 #include "platform/CodePage.h"
 #include "platform/Paths.h"
+#include "platform/SystemCalls.h"
 #include "script/Names.h"
 #include "support/Program.h"
 
@@ -207,12 +209,32 @@ TEST_F(Editor, MissingTextsAreMadeByTheFirstStore) {
 TEST_F(Editor, StoreThatFailsLeavesTheOldTexts) {
     open(Package::west_wins_all());
     choose(1);
-    // A folder in the place of the file that is written beside the texts.
-    std::filesystem::create_directory(program.path(std::string(kStem) + " informatie.txt.nieuw"));
-    const std::string before = program.read(std::string(kStem) + " informatie.txt");
-    store("Nieuw");
+    const std::string file = std::string(kStem) + " informatie.txt";
+    const std::string before = program.read(file);
+    {
+        const system_calls::HookScope full(
+            [](system_calls::Call call, const char*) { return call == system_calls::Call::Sync ? ENOSPC : 0; });
+        store("Nieuw");
+    }
     EXPECT_EQ(program.shared("foutPlaats"), "frmTavrin05 - cmdGebruiken - Click");
-    EXPECT_EQ(program.read(std::string(kStem) + " informatie.txt"), before);
+    EXPECT_EQ(program.read(file), before);
+    EXPECT_EQ(get("txtInformatie.Text"), "Nieuw") << "to be stored elsewhere, or again";
+
+    std::filesystem::rename(program.path(file), program.path("elders"));
+    std::filesystem::create_symlink(program.path("elders"), program.path(file));
+    store("Nieuw");
+    EXPECT_EQ(program.shared("foutNummer"), "75") << "not through a link";
+    EXPECT_EQ(program.read("elders"), before);
+}
+
+TEST_F(Editor, TextsThatCannotBeReadAreNotStoredOver) {
+    open(Package::west_wins_all());
+    const system_calls::HookScope broken([](system_calls::Call call, const char* path) {
+        return call == system_calls::Call::Read && std::string_view(path).ends_with("informatie.txt") ? EIO : 0;
+    });
+    program("select frmTavrin05.lstSpellen 0");
+    EXPECT_EQ(program.shared("foutNummer") + program.shared("foutPlaats"), "57frmTavrin05 - lstSpellen - Click");
+    EXPECT_EQ(get("fraKaartMetTekst.Enabled"), "false");
 }
 
 // Any text that the box can hold, on any card, in any order: it is stored, comes back, and stops the table.

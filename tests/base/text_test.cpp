@@ -43,9 +43,22 @@ TEST(Text, NumericValueIsWhatStandsAtTheHead) {
     const struct {
         const char* text;
         int value;
-    } cases[] = {{"12", 12}, {"  7x", 7}, {"12|tekst", 12}, {"007", 7}, {"-3", -3},
-                 {"+4", 4},  {"- 3", 0},  {"", 0},          {"   ", 0}, {"x1", 0},
-                 {"\t5", 0}, {"--2", 0},  {"1 2", 1},       {"1.9", 1}, {"99999999999999999999", INT_MAX}};
+    } cases[] = {{"12", 12},
+                 {"  7x", 7},
+                 {"12|tekst", 12},
+                 {"007", 7},
+                 {"-3", -3},
+                 {"+4", 4},
+                 {"- 3", 0},
+                 {"", 0},
+                 {"   ", 0},
+                 {"x1", 0},
+                 {"\t5", 0},
+                 {"--2", 0},
+                 {"1 2", 1},
+                 {"1.9", 1},
+                 {"99999999999999999999", INT_MAX},
+                 {"-99999999999999999999", INT_MIN}};
     for (const auto& each : cases)
         EXPECT_EQ(numeric_value(each.text), each.value) << each.text;
 }

@@ -24,9 +24,21 @@ TEST_F(Cards, AreToldByTheirCode) {
     const struct {
         const char* code;
         const char* text;
-    } cases[] = {{"2201", "s 2"}, {"2213", "s A"}, {"2214", "h 2"}, {"2226", "h A"}, {"2227", "r 2"},
-                 {"2239", "r A"}, {"2240", "k 2"}, {"2252", "k A"}, {"2208", "s 9"}, {"2209", "s T"},
-                 {"2223", "h B"}, {"2237", "r V"}, {"2251", "k H"}};
+    } cases[] = {{"2201", "s 2"},
+                 {"2213", "s A"},
+                 {"2214", "h 2"},
+                 {"2226", "h A"},
+                 {"2227", "r 2"},
+                 {"2239", "r A"},
+                 {"2240", "k 2"},
+                 {"2252", "k A"},
+                 {"2208", "s 9"},
+                 {"2209", "s T"},
+                 {"2223", "h B"},
+                 {"2237", "r V"},
+                 {"2251", "k H"},
+                 {"99999999999", "k 2147481409"},
+                 {"-99999999999", "s -2147483647"}};
     for (const auto& each : cases) {
         Kaarten::WelkeKaartIsDit(screen, each.code);
         EXPECT_EQ(program.shared("kaartTekst"), each.text) << each.code;

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStorageInfo>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTemporaryDir>
@@ -78,6 +79,8 @@ TEST(Drives, AreTypedByFileSystemAndByTheMarkOfTheirDisk) {
     EXPECT_TRUE(desktop::disk_is_removable("/dev/sdb1", sys.path()));
     EXPECT_FALSE(desktop::disk_is_removable("/dev/sdc1", sys.path()));
     EXPECT_FALSE(desktop::mounted_volumes().empty());
+    EXPECT_NE(desktop::type_of_volume("/"), desktop::DriveType::Removable);
+    EXPECT_EQ(desktop::label_of_volume("/"), desktop::from_qt(QStorageInfo::root().name()));
 }
 
 TEST(KeyCodes, LeadBothWays) {

@@ -3,12 +3,14 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <fstream>
 
 #include "base/Fout.h"
 #include "forms/ListBox.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
+#include "platform/SystemCalls.h"
 #include "services/Drives.h"
 #include "support/Program.h"
 
@@ -233,7 +235,6 @@ TEST(ExchangeWithLinks, LeadsNowhere) {
     } rows[] = {
         {"stick/QVT_Spellen/Spel 009/Spel 009 geheim.txt", "outside/secret.txt", "Importeer"},
         {"stick/QVT_Spellen/Spel 009", "outside", "Importeer"},
-        {"stick/QVT_Spellen", "deals", "Importeer"},
         {"stick/QVT_Spellen/Spel 001/Spel 001 aftavrin.txt", "outside/secret.txt", "Exporteer"},
         {"stick/QVT_Spellen/Spel 001/Spel 001 aftavrin.txt", "outside/new.txt", "Exporteer"},
         {"stick/QVT_Spellen/Spel 001", "outside", "Exporteer"},
@@ -263,6 +264,65 @@ TEST(ExchangeWithLinks, LeadsNowhere) {
         for (const std::string& entry : program.tree("aftavrin"))
             EXPECT_EQ(entry.find("secret"), std::string::npos);
     }
+}
+
+TEST(ExchangeWithLinks, ReadsNoListThroughOneOnTheStickButTheUsersOwnFiles) {
+    Sticks sticks;
+    Program& program = sticks.program;
+    fs::remove_all(program.path("stick"));
+    fs::create_directories(program.path("stick"));
+    fs::create_symlink(program.path("aftavrin"), program.path("stick/QVT_Spellen"));
+    sticks.put_in();
+    sticks.open();
+    EXPECT_EQ(sticks.report(), "75 frmTavrin07 - General - LeesExporteer");
+    EXPECT_EQ(sticks.get("lstImporteer.ListCount"), "0");
+
+    fs::remove(program.path("stick/QVT_Spellen"));
+    fs::create_directory(program.path("stick/QVT_Spellen"));
+    program.write("elders/Spel 004 vraag.txt", "Hoe?");
+    program.write("documenten/plan", "Zo.");
+    fs::create_symlink(program.path("elders"), program.path("aftavrin/Spel 004"));
+    fs::create_symlink(program.path("documenten/plan"), program.path("aftavrin/Spel 001/plan.txt"));
+    program.programma.gedeeld.foutNummer = 0;
+    program("click frmTavrin07.chkSorteerExporteer");
+    sticks.choose("lstExporteer", {0, 3});
+    program("click frmTavrin07.cmdExporteer");
+    EXPECT_EQ(program.shared("foutNummer"), "0");
+    EXPECT_EQ(program.read("stick/QVT_Spellen/Spel 001/plan.txt"), "Zo.");
+    EXPECT_EQ(program.read("stick/QVT_Spellen/Spel 004/Spel 004 vraag.txt"), "Hoe?");
+    EXPECT_FALSE(fs::is_symlink(program.path("stick/QVT_Spellen/Spel 001/plan.txt")));
+    EXPECT_EQ(sticks.get("MousePointer"), "0");
+}
+
+TEST_F(Exchange, ABreakInTheMiddleLeavesWholeFilesOnly) {
+    const std::string file = "stick/QVT_Spellen/Spel 001/Spel 001 aftavrin.txt";
+    program.write(file, "an older text");
+    program.write("stick/QVT_Spellen/Spel 001/.zandolin-nieuw-1-0", "left behind");
+    put_in();
+    open();
+    choose("lstExporteer", {0});
+    {
+        const system_calls::HookScope pulled([](system_calls::Call call, const char* path) {
+            return call == system_calls::Call::Write && std::string_view(path).find("stick") ? EIO : 0;
+        });
+        program("click frmTavrin07.cmdExporteer");
+    }
+    EXPECT_EQ(report(), "57 frmTavrin07 - cmdExporteer - Click");
+    EXPECT_EQ(program.tree("stick").back(), file + " = an older text");
+    EXPECT_EQ(program.tree("stick").size(), 3U) << "nothing stands beside it";
+}
+
+TEST_F(Exchange, SelectsAndDeselectsAHundredThousandLines) {
+    open();
+    auto& list = dynamic_cast<forms::ListBox&>(program.programma.windows.find("frmTavrin07")->control("lstExporteer"));
+    for (int i = 0; i < 100000; ++i)
+        list.AddItem(std::to_string(i));
+    const auto begin = std::chrono::steady_clock::now();
+    program("click frmTavrin07.chkSelecteerExporteer");
+    EXPECT_EQ(get("cmdExporteer.Enabled"), "true");
+    program("click frmTavrin07.chkSelecteerExporteer");
+    EXPECT_EQ(get("cmdExporteer.Enabled"), "false");
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(5)) << "not line by line over all lines";
 }
 
 TEST_F(Exchange, NamesAsLongAsTheyCanBe) {
@@ -337,7 +397,7 @@ TEST(CopyFile, RefusesWhatIsNoPlainFileAndKeepsAFileCopiedOntoItself) {
     EXPECT_EQ(copy("a", "same"), 0);
     EXPECT_EQ(copy("a", "A"), 0);
     EXPECT_EQ(program.read("a"), "text");
-    EXPECT_EQ(copy("link", "b"), 75);
+    EXPECT_EQ(copy("a", "link"), 75);
     EXPECT_EQ(copy("a", "folder"), 75);
     EXPECT_EQ(copy("folder", "b"), 75);
     EXPECT_EQ(copy("gone", "b"), 53);

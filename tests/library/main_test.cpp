@@ -136,6 +136,73 @@ TEST_F(Deleting, ReportsWhatStandsInItsWayAndKeepsWhatItDid) {
     EXPECT_EQ(program("screens"), "frmTavrin08 visible\nfrmTavrin01 visible\n.");
 }
 
+TEST_F(Deleting, TakesWhatWasLeftBesideTheFilesToo) {
+    const std::string left = "aftavrin/QVT_Spel 1/.zandolin-nieuw-1-0";
+    program.write(left, "broken off");
+    program("answer yes\nclick frmTavrin01.cmdWissen");
+    EXPECT_EQ(program.shared("foutNummer"), "0");
+    EXPECT_FALSE(program.exists("aftavrin/QVT_Spel 1"));
+}
+
+TEST(MainScreen, ClearsAwayAtTheStartWhatAnEarlierRunLeft) {
+    Program program;
+    program.write("elders/.zandolin-nieuw-1-0", "x");
+    program.write("aftavrin/Spel 001/x.txt", "x");
+    std::filesystem::create_directory_symlink(program.path("elders"), program.path("aftavrin/Spel 002"));
+    const auto now = std::filesystem::file_time_type::clock::now();
+    for (const std::string folder : {"", "aftavrin/Spel 001/"}) {
+        for (const auto& [name, time] :
+             {std::pair{"1-0", now - std::chrono::hours(1)}, {"2-0", now + std::chrono::hours(1)}}) {
+            program.write(folder + ".zandolin-nieuw-" + name, "x");
+            std::filesystem::last_write_time(program.path(folder + ".zandolin-nieuw-" + name), time);
+        }
+    }
+    std::filesystem::last_write_time(program.path("elders/.zandolin-nieuw-1-0"), now - std::chrono::hours(1));
+    program("start");
+    for (const std::string folder : {"", "aftavrin/Spel 001/"}) {
+        EXPECT_FALSE(program.exists(folder + ".zandolin-nieuw-1-0"));
+        EXPECT_TRUE(program.exists(folder + ".zandolin-nieuw-2-0")) << "another program may be at work";
+    }
+    EXPECT_TRUE(program.exists("elders/.zandolin-nieuw-1-0")) << "nothing is deleted through a link";
+}
+
+// What is deleted, renamed or fetched must lie in the program's own folder.
+TEST(MainScreen, ChangesNothingThroughALink) {
+    const struct {
+        const char* link;
+        const char* commands;
+    } rows[] = {
+        {"aftavrin/Spel 001", "answer yes\nclick frmTavrin01.cmdWissen"},
+        {"aftavrin/Spel 001/Spel 001 vraag.txt", "answer yes\nclick frmTavrin01.cmdWissen"},
+        {"aftavrin/Spel 001",
+         "click frmTavrin01.cmdHerbeNoem\ntext frmTavrin04.txtSpelNummer 7\n"
+         "click frmTavrin04.cmdHerbenoem"},
+        {"aftavrin/Spel 001/Spel 001 vraag.txt",
+         "click frmTavrin01.cmdHerbeNoem\n"
+         "text frmTavrin04.txtSpelNummer 7\nclick frmTavrin04.cmdHerbenoem"},
+        {"Update/tavrinupdate.exe", "click frmTavrin01.cmdDownLoaden"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(std::string(row.link) + ": " + row.commands);
+        Program program;
+        program.install_companion();
+        program.write("elders/Spel 001 aftavrin.txt", "x");
+        program.write("aftavrin/Spel 001/Spel 001 aftavrin.txt", "x");
+        const auto link = program.path(row.link);
+        std::filesystem::remove_all(link);
+        std::filesystem::create_directories(link.parent_path());
+        const bool folder = link.filename() == "Spel 001";
+        std::filesystem::create_symlink(program.path(folder ? "elders" : "elders/Spel 001 aftavrin.txt"), link);
+        program("online on\nserve http://www.zandolin.example/tavrin/actueleversie.txt " +
+                program.path("elders/Spel 001 aftavrin.txt").string());
+        program("start\nselect frmTavrin01.lstSpellen 0");
+        const auto before = program.tree("");
+        program(row.commands);
+        EXPECT_EQ(program.shared("foutNummer"), "75");
+        EXPECT_EQ(program.tree(""), before);
+    }
+}
+
 TEST_F(Deleting, ReportsAFolderThatVanished) {
     std::filesystem::remove_all(program.path("aftavrin/QVT_Spel 1"));
     program("click frmTavrin01.cmdWissen");

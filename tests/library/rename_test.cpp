@@ -85,10 +85,15 @@ TEST_F(Rename, NumbersBecomeThreeDigits) {
         const char* typed;
         const char* name;
     } rows[] = {
-        {"txtSpelNummer", "7", "QVT_Spel 007"},    {"txtSpelNummer", "1234", "QVT_Spel 234"},
-        {"txtSpelNummer", "1000", "QVT_Spel 000"}, {"txtEigenSpelnummer", "45", "Spel 045"},
-        {"txtEigenSpelnummer", "een", "Spel 000"}, {"txtEigenSpelnummer", "12b", "Spel 012"},
-        {"txtEigenSpelnummer", "-5", "Spel 995"},  {"txtEigenSpelnummer", "99999999999", "Spel 647"},
+        {"txtSpelNummer", "7", "QVT_Spel 007"},
+        {"txtSpelNummer", "1234", "QVT_Spel 234"},
+        {"txtSpelNummer", "1000", "QVT_Spel 000"},
+        {"txtEigenSpelnummer", "45", "Spel 045"},
+        {"txtEigenSpelnummer", "een", "Spel 000"},
+        {"txtEigenSpelnummer", "12b", "Spel 012"},
+        {"txtEigenSpelnummer", "-5", "Spel 995"},
+        {"txtSpelNummer", "10000000000000000000042", "QVT_Spel 042"},
+        {"txtEigenSpelnummer", "99999999999", "Spel 999"},
     };
     open();
     std::string now = kOld;

@@ -4,6 +4,7 @@
 #include <stdlib.h>
 
 #include "platform/SpecialFolders.h"
+#include "platform/SystemCalls.h"
 #include "support/TemporaryFolder.h"
 
 namespace {
@@ -62,6 +63,18 @@ TEST_F(Ini, IsMadeByTheFirstWriteAndKeepsItsSpelling) {
     write_setting(in("nieuw.ini"), "Standaard", "Snelheid", "1");
     EXPECT_EQ(bytes_of("nieuw.ini"), "[Standaard]\r\nSnelheid=1\r\n");
     EXPECT_EQ(failure_of([&] { write_setting(in("geen/s.ini"), "a", "b", "c"); }), 76);
+}
+
+TEST_F(Ini, ThatCannotBeReadHasNoSettingsAndKeepsThem) {
+    const std::string before = "[Standaard]\r\nSnelheid=5\r\n";
+    put("s.ini", before);
+    using system_calls::Call;
+    for (const Call call : {Call::Status, Call::Open, Call::Read}) {
+        const system_calls::HookScope bad([&](Call made, const char*) { return made == call ? EIO : 0; });
+        EXPECT_EQ(read("Standaard", "Snelheid"), "");
+        EXPECT_EQ(failure_of([&] { write("Standaard", "Snelheid", "6"); }), 57);
+    }
+    EXPECT_EQ(bytes_of("s.ini"), before);
 }
 
 TEST_F(Ini, NamesTheFoldersOfTheCompanion) {

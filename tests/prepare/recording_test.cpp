@@ -2,9 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cerrno>
 
 #include "forms/Control.h"
 #include "platform/CodePage.h"
+#include "platform/SystemCalls.h"
+#include "prepare/frmTavrin03.h"
 #include "script/Names.h"
 #include "support/Bridge.h"
 
@@ -489,6 +492,47 @@ TEST_F(Recording, PackageOfMoreThanThirteenTricksIsReported) {
     EXPECT_EQ(get("cmdOpslaan.Enabled"), "false");
 }
 
+// A reload that broke off offers nothing to a save, and the next one starts afresh.
+TEST_F(Recording, PackageThatCannotBeReadIsNotSavedOver) {
+    open(Deal::recordable(23, 2, 2));
+    play(0, 13);
+    program("click frmTavrin03.cmdOpslaan");
+    const std::string question = "aftavrin/QVT_Spel 012/QVT_Spel 012 vraag.txt";
+    program.write(question, "Hoe?\r\n");
+    program("select frmTavrin03.lstAfTavrin 0");
+    ASSERT_EQ(get("cmdOpslaan.Enabled"), "true");
+    const auto reload_without = [&](const char* suffix) {
+        const system_calls::HookScope broken([&](system_calls::Call call, const char* path) {
+            return call == system_calls::Call::Read && std::string_view(path).ends_with(suffix) ? EIO : 0;
+        });
+        program("select frmTavrin03.lstAfTavrin 0");
+        EXPECT_EQ(program.shared("foutNummer"), "57");
+    };
+    reload_without("aftavrin.txt");
+    EXPECT_EQ(get("cmdOpslaan.Enabled"), "false");
+    EXPECT_FALSE(dynamic_cast<frmTavrin03&>(*program.programma.windows.find("frmTavrin03")).LeesModus);
+
+    reload_without("raag.txt");
+    EXPECT_EQ(program.shared("foutPlaats"), "frmTavrin03 - General - LeesSpelIn");
+    EXPECT_EQ(get("cmdOpslaan.Enabled"), "true") << "the play is whole";
+    program("answer yes\nclick frmTavrin03.cmdOpslaan");
+    EXPECT_EQ(program.read(question), "Hoe?\r\n");
+}
+
+TEST_F(Recording, PackageIsNotSavedThroughALink) {
+    open(Deal::recordable(23, 2, 2));
+    play(0, 13);
+    program.write("elders", "x");
+    std::filesystem::create_directories(program.path("aftavrin/QVT_Spel 012"));
+    std::filesystem::create_symlink(program.path("elders"),
+                                    program.path("aftavrin/QVT_Spel 012/QVT_Spel 012 handen.txt"));
+    const auto before = program.tree("aftavrin");
+    program("click frmTavrin03.cmdOpslaan");
+    EXPECT_EQ(program.shared("foutNummer"), "75");
+    EXPECT_EQ(program.tree("aftavrin"), before);
+    EXPECT_EQ(program.read("elders"), "x");
+}
+
 struct FailedSave {
     const char* name;
     void (*damage)(Program&);
@@ -600,7 +644,7 @@ TEST_F(Recording, WithoutTheCompanionBothListsStayEmpty) {
 TEST_F(Recording, LastDealAndSortChoicesComeBack) {
     for (const char* name : {"Spel 1", "Spel 10", "Spel 2"})
         Deal::random(1, 3, 1).write(program, name);
-    program.write("standaardtavrin.ini", "[Standaard]\r\nchkSorteerRVLX=1\r\nLaatsteRVLX=Spel 2\r\n");
+    program.write("standaardtavrin.ini", "[Standaard]\r\nchkSorteerRVLX=7\r\nLaatsteRVLX=Spel 2\r\n");
     program("start\nclick frmTavrin01.cmdNieuwSpel");
     EXPECT_EQ(get("lstRVLX[0].Text"), "Spel 2");
     EXPECT_EQ(get("lstRVLX[2].Text"), "Spel 1");
