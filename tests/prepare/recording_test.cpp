@@ -494,7 +494,7 @@ TEST_F(Recording, PackageOfMoreThanThirteenTricksIsReported) {
 
 // A reload that broke off offers nothing to a save, and the next one starts afresh.
 TEST_F(Recording, PackageThatCannotBeReadIsNotSavedOver) {
-    open(Deal::recordable(23, 2, 2));
+    open(Deal::random(23, 2, 2));
     play(0, 13);
     program("click frmTavrin03.cmdOpslaan");
     const std::string question = "aftavrin/QVT_Spel 012/QVT_Spel 012 vraag.txt";
@@ -520,7 +520,7 @@ TEST_F(Recording, PackageThatCannotBeReadIsNotSavedOver) {
 }
 
 TEST_F(Recording, PackageIsNotSavedThroughALink) {
-    open(Deal::recordable(23, 2, 2));
+    open(Deal::random(23, 2, 2));
     play(0, 13);
     program.write("elders", "x");
     std::filesystem::create_directories(program.path("aftavrin/QVT_Spel 012"));
