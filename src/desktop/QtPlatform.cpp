@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QUrl>
 
+#include "base/Fout.h"
 #include "desktop/Drives.h"
 #include "desktop/FormWindow.h"
 #include "desktop/KeySender.h"
@@ -24,7 +25,13 @@ namespace desktop {
 namespace {
 
 // File names on disk may hold what Windows-1252 cannot; the look-up gives their real bytes back.
-QString real_path(const std::string& path) { return QString::fromStdString(find_case_blind(path).string()); }
+QString real_path(const std::string& path) {
+    try {
+        return QString::fromStdString(find_case_blind(path).string());
+    } catch (const Fout&) {  // What can't be looked up can't be opened either, and that is all.
+        return to_qt(path);
+    }
+}
 
 void start_program(const QString& program, const std::string& parameters, const std::string& folder) {
     QFile file(program);
