@@ -10,6 +10,21 @@
 
 namespace desktop {
 
+namespace {
+
+constexpr int kSymbolSize = 32;  // logical pixels; what is larger is a card or a face
+
+// The shape of the picture alone.
+QPixmap silhouette(const QPixmap& picture, const QColor& colour) {
+    QPixmap shape = picture;
+    QPainter painter(&shape);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(shape.rect(), colour);
+    return shape;
+}
+
+}  // namespace
+
 // Paints its picture at the pixel ratio of the screen that it stands on at the time.
 class PictureWidget final : public Surface {
 public:
@@ -35,7 +50,20 @@ private:
             corner += QPointF(inside.width() - size.width() * scale, inside.height() - size.height() * scale) / 2;
         }
         const QPixmap pixmap = pictures_.pixmap(picture_, scale, devicePixelRatioF());
-        if (!pixmap.isNull()) painter.drawPixmap(corner, pixmap);
+        if (pixmap.isNull()) return;
+        if (needs_rim()) {
+            const QPixmap rim = silhouette(pixmap, Qt::white);
+            for (const QPointF aside : {QPointF(-1, 0), QPointF(1, 0), QPointF(0, -1), QPointF(0, 1)})
+                painter.drawPixmap(corner + aside, rim);
+        }
+        painter.drawPixmap(corner, pixmap);
+    }
+
+    // A small red or black symbol is lost on a dark ground.
+    bool needs_rim() const {
+        const auto* ground = dynamic_cast<const Surface*>(parentWidget());
+        return !background().isValid() && std::max(width(), height()) <= kSymbolSize && ground &&
+               ground->background().isValid() && ground->background().lightness() < 128;
     }
 
     PictureCache& pictures_;

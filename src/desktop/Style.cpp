@@ -1,6 +1,8 @@
 #include "desktop/Style.h"
 
+#include <QCheckBox>
 #include <QStyleOption>
+#include <algorithm>
 
 #include "desktop/Look.h"
 
@@ -53,6 +55,12 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
         drawPrimitive(part == SC_ScrollBarSubLine ? PE_IndicatorArrowUp : PE_IndicatorArrowDown, &arrow, painter,
                       widget);
     }
+}
+
+int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    const bool tick = metric == PM_IndicatorWidth || metric == PM_IndicatorHeight;
+    return tick && qobject_cast<const QCheckBox*>(widget) ? std::min(usual, widget->height()) : usual;
 }
 
 QPalette Style::colours() {

@@ -15,6 +15,9 @@ public:
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
 
+    // A tick is never higher than its box.
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+
     // The colours of the program, whatever the desktop's own are.
     static QPalette colours();
 };

@@ -14,6 +14,7 @@ public:
 
     // An invalid colour is no background.
     void set_look(const QColor& background, bool framed);
+    const QColor& background() const { return background_; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -70,11 +70,14 @@ int ListBox::find(std::string_view text, Match match) const {
 }
 
 void ListBox::user_select(int line) {
-    Line& asked = line_at(line);
-    if (MultiSelect) select(asked, !asked.selected);
+    if (MultiSelect && line < ListCount()) {
+        Line& asked = line_at(line);
+        select(asked, !asked.selected);
+    }
     ListIndex.store(line);
     changed();
     if (Click) Click();
+    if (ListIndex >= ListCount()) ListIndex.store(-1);
 }
 
 void ListBox::select(Line& line, bool selected) {

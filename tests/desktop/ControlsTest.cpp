@@ -118,7 +118,14 @@ TEST_F(Controls, AClickOnTheSelectedLineRaisesAgain) {
 }
 
 TEST_F(Controls, KeysMoveThroughAList) {
-    click_line(form.list, 0);
+    for (const Qt::Key first : {Qt::Key_Down, Qt::Key_Home, Qt::Key_Space, Qt::Key_A}) {
+        program([&] { form.list.ListIndex = -1; });
+        form.clicked.clear();
+        widget(form.list)->setFocus();
+        QTest::keyClick(widget(form.list), first);
+        EXPECT_EQ(highlighted(form.list), std::vector{0}) << "nothing was chosen before";
+        EXPECT_EQ(form.clicked.size(), 1U);
+    }
     const std::vector<std::pair<Qt::Key, int>> steps{{Qt::Key_Down, 1}, {Qt::Key_H, 2},   {Qt::Key_H, 3},
                                                      {Qt::Key_H, 2},    {Qt::Key_End, 4}, {Qt::Key_Up, 3},
                                                      {Qt::Key_Home, 0}};
@@ -193,6 +200,12 @@ TEST_F(Controls, AGridShowsItsCellsAndReportsEveryClick) {
     });
     EXPECT_EQ(table.item(3, 2)->text(), "H Aas");
     EXPECT_EQ(table.item(3, 2)->background().color(), QColor(255, 255, 0));
+    program([&] {
+        form.grid.Col = 0;
+        form.grid.SetCellBackColor(Colour::rgb(0, 255, 0));
+    });
+    EXPECT_EQ(table.item(3, 0)->background().color(), QColor(0, 255, 0)) << "a heading may have a colour of its own";
+    EXPECT_EQ(table.item(4, 0)->background().color(), QColor(0xF0, 0xF0, 0xF0));
     const auto click_cell = [&](int row, int col) {
         QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, table.visualItemRect(table.item(row, col)).center());
     };

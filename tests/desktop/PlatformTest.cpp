@@ -2,7 +2,9 @@
 
 #include <QDir>
 #include <QFile>
+#include <QGuiApplication>
 #include <QMessageBox>
+#include <QProcess>
 #include <QPushButton>
 #include <QStorageInfo>
 #include <QTcpServer>
@@ -11,11 +13,13 @@
 #include <QTest>
 #include <QTimer>
 
+#include "desktop/CapsLock.h"
 #include "desktop/Drives.h"
 #include "desktop/KeyCodes.h"
 #include "desktop/Network.h"
 #include "desktop/QtHost.h"
 #include "desktop/QtPlatform.h"
+#include "desktop/RealProgram.h"
 #include "desktop/Text.h"
 
 namespace {
@@ -141,6 +145,40 @@ TEST_F(PlatformTest, StartsAProgramWithItsOneArgument) {
         QTest::qWait(20);
     ASSERT_TRUE(answer.open(QIODevice::ReadOnly));
     EXPECT_EQ(answer.readAll(), "1:een map\n");
+}
+
+TEST(Keyboard, CapsLockIsAskedOfTheWindowSystem) {
+    if (QGuiApplication::platformName() != "xcb") GTEST_SKIP() << "nobody can press it here";
+    const auto press = [] { return QProcess::execute("xdotool", {"key", "Caps_Lock"}); };
+    EXPECT_FALSE(desktop::caps_lock_is_on());
+    ASSERT_EQ(press(), 0);
+    EXPECT_TRUE(QTest::qWaitFor([] { return desktop::caps_lock_is_on(); }));
+    ASSERT_EQ(press(), 0);
+    EXPECT_TRUE(QTest::qWaitFor([] { return !desktop::caps_lock_is_on(); }));
+}
+
+TEST(Help, WithoutAViewerItSaysSo) {
+    struct {
+        const char* viewer;  // the script that opens files; none: there is no such program
+        bool told;
+    } const rows[] = {{"", true}, {"#!/bin/sh\nexit 3\n", true}, {"#!/bin/sh\nexit 0\n", false}};
+    const QByteArray path = qgetenv("PATH");
+    for (const auto& row : rows) {
+        QTemporaryDir folder;
+        QFile viewer(folder.filePath("xdg-open"));
+        if (*row.viewer && viewer.open(QIODevice::WriteOnly)) {
+            viewer.write(row.viewer);
+            viewer.setPermissions(QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+            viewer.close();
+        }
+        qputenv("PATH", QFile::encodeName(folder.path()));
+        desktop::QtHost host(1.0);
+        TestPlatform platform(host, desktop::from_qt(folder.path()));
+        platform.show_help(desktop::from_qt(folder.filePath("help.chm")));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !qApp->findChild<QProcess*>(); })) << row.viewer;
+        EXPECT_EQ(!platform.told.empty(), row.told) << row.viewer;
+        qputenv("PATH", path);
+    }
 }
 
 }  // namespace

@@ -1,7 +1,10 @@
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QImage>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QTextEdit>
+#include <functional>
 
 #include "desktop/KeySender.h"
 #include "desktop/TestWindows.h"
@@ -10,6 +13,12 @@
 #include "forms/TextBox.h"
 
 namespace {
+
+QMimeData* with(const std::function<void(QMimeData&)>& fill) {
+    auto* data = new QMimeData;
+    fill(*data);
+    return data;
+}
 
 class BoxForm final : public forms::Form {
 public:
@@ -92,6 +101,56 @@ TEST_F(TextBoxes, ALineBreakCountsTwoAndPastedTextIsCut) {
     QTest::keyClick(widget(form.text), Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(form.text.Text(), "1\r\n2\r\n");
     EXPECT_EQ(shown(form.text), "1\n2\n");
+}
+
+// What a clipboard may hold, and what of it gets into a box.
+struct Held {
+    const char* what;
+    std::function<QMimeData*()> make;
+    const char* pasted;
+};
+const Held kHeld[] = {
+    {"nothing at all", [] { return new QMimeData; }, ""},
+    {"a text", [] { return with([](QMimeData& data) { data.setText("17"); }); }, "17"},
+    {"a rich text",
+     [] {
+         return with([](QMimeData& data) {
+             data.setText("17");
+             data.setHtml("<b>18</b>");
+         });
+     },
+     "17"},
+    {"rich text alone", [] { return with([](QMimeData& data) { data.setHtml("<b>18</b>"); }); }, ""},
+    {"a picture", [] { return with([](QMimeData& data) { data.setImageData(QImage(9, 9, QImage::Format_RGB32)); }); },
+     ""}};
+
+TEST_F(TextBoxes, OnlyTextIsPasted) {
+    for (const Held& held : kHeld) {
+        for (forms::TextBox* box : {&form.number, &form.text}) {
+            program([&] { box->Text = ""; });
+            click(*box);
+            QGuiApplication::clipboard()->setMimeData(held.make());
+            QTest::keyClick(widget(*box), Qt::Key_V, Qt::ControlModifier);
+            EXPECT_EQ(box->Text(), held.pasted) << held.what;
+        }
+    }
+}
+
+TEST_F(TextBoxes, TheMiddleButtonPastesWhatIsSelectedElsewhere) {
+    QClipboard& clipboard = *QGuiApplication::clipboard();
+    if (!clipboard.supportsSelection()) GTEST_SKIP() << "the window system has none";
+    for (const Held& held : kHeld) {
+        for (forms::TextBox* box : {&form.number, &form.text}) {
+            program([&] { box->Text = ""; });
+            clipboard.setMimeData(held.make(), QClipboard::Selection);
+            QWidget* shown_box = widget(*box);
+            if (auto* area = qobject_cast<QTextEdit*>(shown_box)) shown_box = area->viewport();
+            QTest::mouseClick(shown_box, Qt::MiddleButton);
+            EXPECT_EQ(box->Text(), held.pasted) << held.what;
+        }
+    }
+    clipboard.clear(QClipboard::Selection);
+    QTest::mouseClick(widget_as<QTextEdit>(form.text).viewport(), Qt::MiddleButton);
 }
 
 TEST_F(TextBoxes, TheSelectionRunsBothWays) {

@@ -273,6 +273,19 @@ TEST(MainScreen, UnloadsAScreenThatTheUserLeftOpenBehindIt) {
               "frmTavrin01 visible\n.");
 }
 
+// Coming back to the screen reads its list anew.
+TEST(MainScreen, ReportsALineThatVanishedUnderTheClick) {
+    Program program;
+    program.install_companion();
+    for (const char* deal : {"Spel 1", "Spel 2"}) program.write("aftavrin/" + std::string(deal) + "/x.txt", "");
+    program("start\nclick frmTavrin01.cmdNieuwSpel");
+    std::filesystem::remove_all(program.path("aftavrin/Spel 2"));
+    program("select frmTavrin01.lstSpellen 1");
+    EXPECT_EQ(program.shared("foutPlaats"), "frmTavrin01 - lstTavrin - Click");
+    EXPECT_EQ(program.shared("foutNummer"), "9");
+    EXPECT_EQ(program.get("frmTavrin01.lstSpellen.ListIndex"), "-1");
+}
+
 TEST(MainScreen, EndsTheProgram) {
     for (const char* way : {"key frmTavrin01 escape", "close frmTavrin01", "click frmTavrin01.cmdAfsluiten"}) {
         Program program;

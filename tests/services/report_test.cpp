@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "services/Bas_Aftavrin.h"
+#include "services/Foutpad.h"
 #include "support/Program.h"
 
 namespace {
@@ -27,6 +28,14 @@ protected:
 
 const char* const kFirst = "Bas_Aftavrin - General - DisplyDriveTypes";
 const char* const kDamaged = "Kaarten - General - OverigeStartPositie";
+
+TEST_F(Report, IsAsWideAsItsTextButNeverAsTheScreen) {
+    program("screen 15000 9000\nstart");
+    program.programma.windows.dispatch([&] { meld_fout(program.programma, "plaats", 1, std::string(400, 'x')); });
+    EXPECT_LE(std::stod(get("Left")) + std::stod(get("Width")), 15000);
+    EXPECT_GT(std::stod(get("Width")), std::stod(get("cmdInterNet.Left")) + std::stod(get("cmdInterNet.Width")));
+    EXPECT_NE(program("clipboard").find(std::string(400, 'x')), std::string::npos);
+}
 
 TEST_F(Report, NamesTheFailureAndPutsItOnTheClipboard) {
     program.interpreter.platform.clipboard = "eerder";
