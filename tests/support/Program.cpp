@@ -19,7 +19,7 @@ fs::path new_temporary_folder() {
 }
 
 Program::Program()
-    : folder_(new_temporary_folder()), interpreter(path_text(folder_)), programma(interpreter.programma) {
+    : folder_(new_temporary_folder()), interpreter(make_stage(path_text(folder_))), programma(interpreter.programma) {
     interpreter.platform.special_folders[kProgramFiles] = "";
     interpreter.platform.special_folders[kProgramFilesX86] = "";
 }
@@ -87,7 +87,8 @@ Package Package::west_wins_all() {
     for (int trick = 0; trick < 13; ++trick) {
         // Noord has harten, Oost ruiten, Zuid klaveren, West schoppen, each from the ace down.
         std::string row = "4123";
-        for (const int ace : {2226, 2239, 2252, 2213}) row += "|" + std::to_string(ace - trick);
+        for (const int ace : {2226, 2239, 2252, 2213})
+            row += "|" + std::to_string(ace - trick);
         package.rows.push_back(row);
     }
     package.contract = "Zuid 3 SA";
@@ -97,7 +98,8 @@ Package Package::west_wins_all() {
 void write_package(Program& program, const Package& package) {
     const std::string stem = "aftavrin/" + package.name + "/" + package.name;
     std::string rows;
-    for (const std::string& row : package.rows) rows += row + "\r\n";
+    for (const std::string& row : package.rows)
+        rows += row + "\r\n";
     program.write(stem + " aftavrin.txt", rows);
     program.write(stem + " Uitkomst.txt", package.lead + "\r\n");
     program.write(stem + " Contract.txt", package.contract + "\r\n");
