@@ -22,6 +22,7 @@ public:
         stretch_ = stretch;
         update();
     }
+    const forms::Picture& picture() const { return picture_; }
 
 private:
     void paint_content(QPainter& painter, const QRect& inside) override {
@@ -69,6 +70,8 @@ PictureView::PictureView(FormWindow& window, forms::Image& image, QWidget* paren
     };
     widget_.Clicked = [this] { user_did([this] { forms::user::click(control()); }); };
 }
+
+const forms::Picture& PictureView::shown_picture() const { return widget_.picture(); }
 
 void PictureView::show_state() { show_(); }
 

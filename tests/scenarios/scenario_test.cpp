@@ -92,15 +92,16 @@ private:
     Program program_;
 };
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    testing::InitGoogleTest(&argc, argv);
+bool register_all() {
     for (const auto& entry : fs::directory_iterator(SCENARIO_DIR)) {
         const fs::path file = entry.path();
         if (file.extension() != ".script") continue;
         testing::RegisterTest("Scenario", file.stem().string().c_str(), nullptr, nullptr, file.string().c_str(), 1,
                               [file]() -> Scenario* { return new Scenario(file); });
     }
-    return RUN_ALL_TESTS();
+    return true;
 }
+
+[[maybe_unused]] const bool registered = register_all();
+
+}  // namespace

@@ -1,0 +1,61 @@
+#include "script_desktop/DesktopPlatform.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+
+#include "desktop/FormWindow.h"
+#include "desktop/QtHost.h"
+#include "desktop/Text.h"
+
+namespace script_desktop {
+
+namespace {
+
+// Rounds of the event loop until a box must have come.
+constexpr int kMostTries = 1000;
+
+Qt::Key key_of(Answer answer) {
+    return answer == Answer::Yes ? Qt::Key_J : answer == Answer::No ? Qt::Key_N : Qt::Key_Return;
+}
+
+}  // namespace
+
+DesktopPlatform::DesktopPlatform(desktop::QtHost& host, const std::string& program_folder)
+    : ScriptPlatform(program_folder), host_(host), real_(host, program_folder) {}
+
+Answer DesktopPlatform::message_box(int style, const std::string& title, const std::string& text) {
+    const Answer wanted = ScriptPlatform::message_box(style, title, text);
+    QTimer::singleShot(0, [this, box = boxes.back()] { answer_by_key(box, 0); });
+    const Answer given = real_.message_box(style, title, text);
+    // As a window manager does when the box has gone.
+    if (host_.front()) host_.front()->activateWindow();
+    if (given != wanted) difference_ = "the box was answered " + std::to_string(static_cast<int>(given)) + ": " + text;
+    return given;
+}
+
+void DesktopPlatform::answer_by_key(const Box& wanted, int tries) {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box || !box->isActiveWindow()) {
+        if (tries == kMostTries) return;
+        QTimer::singleShot(0, [this, wanted, tries] { answer_by_key(wanted, tries + 1); });
+        return;
+    }
+    if (box->windowTitle() != desktop::to_qt(wanted.title) || box->text() != desktop::to_qt(wanted.text)) {
+        difference_ = "the box shows " + desktop::from_qt(box->windowTitle() + ": " + box->text());
+    }
+    QTest::keyClick(box->windowHandle(), key_of(wanted.answer));
+}
+
+void DesktopPlatform::set_clipboard(const std::string& text) {
+    ScriptPlatform::set_clipboard(text);
+    real_.set_clipboard(text);
+}
+
+void DesktopPlatform::send_keys(const std::vector<KeyRecord>& records) {
+    ScriptPlatform::send_keys(records);
+    real_.send_keys(records);
+}
+
+}  // namespace script_desktop
