@@ -3,51 +3,84 @@
 #   tools/shots.sh PROGRAM FOLDER PICTURES     FOLDER is a program folder with the sample deals
 # Controls are clicked at their places in twips, as the screens' headers give them; a pixel is 15 of them.
 set -euo pipefail
+[ "${SHOTS_DISPLAY:-}" = own ] || SHOTS_DISPLAY=own exec "$(dirname "$0")/display.sh" "$0" "$@"
 program=$(realpath "$1")
 folder=$(realpath "$2")
 pictures=$(realpath "$3")
 
-number=90
-while [ -e "/tmp/.X11-unix/X$number" ]; do number=$((number + 1)); done
-export DISPLAY=:$number
-unset WAYLAND_DISPLAY
-Xvfb "$DISPLAY" -screen 0 1440x900x24 >/dev/null 2>&1 &
-processes=($!)
-trap 'kill "${processes[@]}" 2>/dev/null || true' EXIT
-for _ in $(seq 50); do xdpyinfo >/dev/null 2>&1 && break; sleep 0.1; done
-openbox >/dev/null 2>&1 &
-processes+=($!)
+processes=()
+trap '[ ${#processes[@]} -eq 0 ] || kill "${processes[@]}" 2>/dev/null || true' EXIT
+readonly LIMIT=60  # seconds that anything may take on a busy machine
 
-window() {
-    xdotool search --onlyvisible --sync --name "^$1\$" 2>/dev/null | tail -n 1
+# What was on the screen when something did not come.
+give_up() {
+    import -window root "$pictures/failure.png"
+    xwininfo -root -tree >"$pictures/failure.txt"
+    echo "$1; the screen and its windows stand in $pictures/failure.png and failure.txt" >&2
+    exit 1
 }
-# Waits for a window of that title and makes it the one that is clicked on.
+# Waits for a window of that title, and for the window manager to give it the keys.
 at() {
-    current=$(timeout 20 bash -c "$(declare -f window); window '$1'") || { echo "no window: $1" >&2; exit 1; }
-    sleep 0.4
+    current=$(timeout $LIMIT xdotool search --onlyvisible --sync --name "^$1\$" | tail -n 1) || true
+    [ -n "$current" ] || give_up "no window: $1"
+    timeout $LIMIT xdotool windowactivate --sync "$current" || give_up "not the active window: $1"
+    settled
+}
+shown() {
+    xwd -root -silent | md5sum
+}
+# Waits until nothing has changed on the screen for so many milliseconds, 200 without a number.
+settled() {
+    local quiet=${1:-200} before now since end=$((SECONDS + LIMIT))
+    before=$(shown)
+    since=$(date +%s%3N)
+    while [ $(($(date +%s%3N) - since)) -lt "$quiet" ]; do
+        [ $SECONDS -lt $end ] || give_up "the screen does not come to rest"
+        now=$(shown)
+        [ "$now" = "$before" ] || since=$(date +%s%3N)
+        before=$now
+    done
+}
+# changes COMMAND...: does it, and waits until the screen has answered and come to rest.
+changes() {
+    local before end=$((SECONDS + LIMIT))
+    before=$(shown)
+    "$@"
+    while [ "$(shown)" = "$before" ]; do
+        [ $SECONDS -lt $end ] || give_up "nothing changes after: $*"
+    done
+    settled
+}
+point() {
+    xdotool mousemove --window "$current" "$1" "$2"
+    settled
 }
 # click LEFT TOP WIDTH HEIGHT: the middle of a control, in twips within the window.
 click() {
-    xdotool mousemove --window "$current" $((($1 + $3 / 2) / 15)) $((($2 + $4 / 2) / 15)) click 1
-    sleep 0.25
+    point $((($1 + $3 / 2) / 15)) $((($2 + $4 / 2) / 15))
+    changes xdotool click 1
 }
 # line LEFT TOP NUMBER: a line of a list that begins there.
 line() {
-    xdotool mousemove --window "$current" $(($1 / 15 + 30)) $(($2 / 15 + 8 + 13 * $3)) click 1
-    sleep 0.25
+    point $(($1 / 15 + 30)) $(($2 / 15 + 8 + 13 * $3))
+    changes xdotool click 1
 }
 key() {
-    xdotool key --window "$current" "$1"
-    sleep 0.4
+    changes xdotool key --window "$current" "$1"
+}
+# The table plays on until it shows a text or all cards are played.
+play_on() {
+    key "$1"
+    settled 1500
 }
 picture() {
     xdotool mousemove 1 1
-    sleep 0.3
+    settled
     import -window root "$pictures/$1.png"
 }
 whole_window() {
     xdotool mousemove 1 1
-    sleep 0.3
+    settled
     import -window "$current" "$pictures/$1.png"
 }
 
@@ -62,18 +95,11 @@ whole_window main
 click 5280 4530 1545 435
 at "Zandolin"
 picture table-before-start
-key alt+s
-sleep 0.8
+play_on alt+s
 picture table-opening-lead
-for _ in $(seq 4); do
-    key alt+v
-    sleep 2
-done
+for _ in $(seq 4); do play_on alt+v; done
 picture table-text
-for _ in $(seq 8); do
-    key alt+v
-    sleep 1.6
-done
+for _ in $(seq 7); do play_on alt+v; done
 picture table-end
 key Escape
 
@@ -104,7 +130,6 @@ click 3645 4530 1545 435
 at "Editor"
 line 240 480 0
 click 8595 750 450 450
-sleep 0.3
 whole_window editor
 click 10080 5880 1665 525
 whole_window editor-preview
@@ -113,7 +138,6 @@ click 12510 5880 1485 525
 at "Spel 1"
 whole_window overview
 xdotool windowsize --sync "$current" 740 610
-sleep 0.5
 whole_window overview-large
 key Escape
 at "Editor"
@@ -128,8 +152,7 @@ whole_window rename
 key Escape
 at "Zandolin Lomert"
 click 1710 4020 1875 435
-sleep 1
-xdotool key Return
+changes xdotool key Return
 at "Import/Export"
 line 240 420 0
 line 240 420 2

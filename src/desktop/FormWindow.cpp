@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <algorithm>
 
 #include "desktop/KeyCodes.h"
@@ -36,6 +37,7 @@ View* FormWindow::view(const forms::Control& control) const {
 
 void FormWindow::flush() {
     if (retired_) return;
+    const QScopedValueRollback flushing(flushing_, true);
     forms::Form::Changes changes = form_.take_changes();
     if (built_) {
         for (forms::Control* control : changes.controls) {
@@ -70,9 +72,9 @@ FormWindow::Shown FormWindow::show_control(forms::Control& control) {
     std::unique_ptr<View> made = make_view(*this, control, parent);
     if (!made) return Shown::Before;
     View& added = *views_.emplace(&control, std::move(made)).first->second;
-    if (added.widget().focusPolicy() & Qt::TabFocus) tab_stops_changed_ = true;
     if (auto* container = dynamic_cast<forms::Container*>(&control)) show_controls(*container);
     added.refresh();
+    if (added.widget().focusPolicy() & Qt::TabFocus) tab_stops_changed_ = true;
     return Shown::New;
 }
 
@@ -190,10 +192,18 @@ void FormWindow::show_place() {
     }
 }
 
+// A control that cannot have it now leaves it with nobody: the widget that Qt goes on to was chosen by no one.
 void FormWindow::give_focus() {
-    const forms::Control* focus = form_.focus();
-    const View* shown = focus ? view(*focus) : nullptr;
-    if (shown && focusWidget() != &shown->widget()) shown->widget().setFocus(Qt::OtherFocusReason);
+    if (!form_.focus()) return;
+    const View* shown = view(*form_.focus());
+    QWidget* wanted = shown ? &shown->widget() : nullptr;
+    if (wanted && !(wanted->isVisibleTo(this) && wanted->isEnabledTo(this))) wanted = nullptr;
+    if (focusWidget() == wanted) return;
+    if (wanted) {
+        wanted->setFocus(Qt::OtherFocusReason);
+    } else {
+        focusWidget()->clearFocus();
+    }
 }
 
 void FormWindow::retire() {

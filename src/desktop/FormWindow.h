@@ -36,6 +36,8 @@ public:
     // The form is about to be destroyed: the window never looks at it again and takes no more events.
     void retire();
     bool retired() const { return retired_; }
+    // True while the window is brought up to the form: where the focus then goes was not asked for by the user.
+    bool flushing() const { return flushing_; }
 
     // Runs what the user did as an event of the core, unless the core takes none now.
     void act(const std::function<void()>& event);
@@ -75,6 +77,7 @@ private:
     forms::MousePointer shown_pointer_ = forms::MousePointer::Default;
     forms::WindowState shown_state_ = forms::WindowState::Normal;
     bool built_ = false;
+    bool flushing_ = false;
     bool tab_stops_changed_ = false;
     bool retired_ = false;
 };

@@ -28,11 +28,13 @@ public:
 private:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        const QRect title_place =
-            title().isEmpty()
-                ? QRect()
-                : QRect(kTitleIndent, 0, fontMetrics().horizontalAdvance(title()) + 1, fontMetrics().height());
-        const QRectF line = QRectF(rect()).adjusted(0.5, title_place.height() / 2 + 0.5, -0.5, -0.5);
+        // A frame that reaches past what it stands on keeps its edge in sight.
+        const QRect seen = rect() & parentWidget()->rect().translated(-pos());
+        const QString title = fontMetrics().elidedText(this->title(), Qt::ElideMiddle, seen.width() - 2 * kTitleIndent,
+                                                       Qt::TextShowMnemonic);
+        const QSize size(fontMetrics().size(Qt::TextShowMnemonic, title).width() + 1, fontMetrics().height());
+        const QRect title_place = title.isEmpty() ? QRect() : QRect(QPoint(kTitleIndent, 0), size);
+        const QRectF line = QRectF(seen).adjusted(0.5, title_place.height() / 2 + 0.5, -0.5, -0.5);
         painter.save();
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(Qt::NoPen);
@@ -44,7 +46,7 @@ private:
         painter.drawRoundedRect(line, kCornerRadius, kCornerRadius);
         painter.restore();
         painter.setPen(isEnabled() ? text_ : palette().color(QPalette::Disabled, QPalette::WindowText));
-        painter.drawText(title_place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, title());
+        painter.drawText(title_place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, title);
     }
 
     QColor background_;

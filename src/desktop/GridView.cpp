@@ -27,6 +27,7 @@ public:
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setTabKeyNavigation(false);
+        setFocusPolicy(Qt::ClickFocus);  // no key does anything in it
         for (int row = 0; row < rows; ++row) {
             for (int col = 0; col < cols; ++col)
                 setItem(row, col, new QTableWidgetItem);
@@ -80,7 +81,8 @@ void GridView::show_state() {
             QTableWidgetItem& item = *widget_.item(row, col);
             const QString text = to_qt(cell.text);
             if (item.text() != text) item.setText(text);
-            const QBrush background(colour(heading ? forms::kFaceColour : cell.colour));
+            const bool plain = heading && cell.colour == forms::kWindowColour;
+            const QBrush background(colour(plain ? forms::kFaceColour : cell.colour));
             if (item.background() != background) item.setBackground(background);
             const Qt::Alignment alignment = Qt::AlignVCenter | (centred ? Qt::AlignHCenter : Qt::AlignLeft);
             if (item.textAlignment() != static_cast<int>(alignment)) item.setTextAlignment(alignment);

@@ -18,14 +18,10 @@ private:
     void show_state() override;
     // A label that starts at the left and has no ground of its own is as wide as its text needs.
     QRect place() const override;
-    double shown_width(const std::string& line) const;
+    double pixels(double twips) const;
 
     forms::Label& label_;
     LabelWidget& widget_;
 };
-
-// The lines in which a label shows its text: it breaks at blanks where the label is wider than high for it, that is,
-// where there is room for a second line. Widths are twips.
-std::vector<std::string> label_lines(const forms::Label& label);
 
 }  // namespace desktop

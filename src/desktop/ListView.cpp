@@ -35,6 +35,7 @@ void ListView::show_state() {
 void ListView::show_selection() {
     QItemSelectionModel& selection = *widget_.selectionModel();
     const int index = list_.ListIndex;
+    widget_.set_chosen(index);
     const QModelIndex current = index < 0 ? QModelIndex() : model_->index(index, 0);
     if (widget_.currentIndex() != current) selection.setCurrentIndex(current, QItemSelectionModel::NoUpdate);
     if (list_.MultiSelect) {
@@ -43,7 +44,8 @@ void ListView::show_selection() {
         for (int line = 0; line < list_.ListCount(); ++line) {
             if (!list_.Selected(line)) continue;
             const int first = line;
-            while (line + 1 < list_.ListCount() && list_.Selected(line + 1)) ++line;
+            while (line + 1 < list_.ListCount() && list_.Selected(line + 1))
+                ++line;
             selected.select(model_->index(first, 0), model_->index(line, 0));
         }
         selection.select(selected, QItemSelectionModel::ClearAndSelect);

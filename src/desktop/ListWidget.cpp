@@ -48,14 +48,14 @@ void ListWidget::keyPressEvent(QKeyEvent* event) {
     }
     if (many_ && event->key() != Qt::Key_Space) {
         selectionModel()->setCurrentIndex(model()->index(line, 0), QItemSelectionModel::NoUpdate);
-    } else if (many_ || line != currentIndex().row()) {
+    } else if (many_ || line != chosen_) {
         if (Chosen) Chosen(line);
     }
 }
 
 int ListWidget::line_for(const QKeyEvent& event) const {
     const int last = model()->rowCount() - 1;
-    const int current = currentIndex().row();
+    const int current = from();
     const int page = std::max(1, viewport()->height() / std::max(1, sizeHintForRow(0)) - 1);
     if (last < 0) return -1;
     const auto within = [&](int line) { return std::clamp(line, 0, last); };
@@ -73,7 +73,7 @@ int ListWidget::line_for(const QKeyEvent& event) const {
         case Qt::Key_End:
             return last;
         case Qt::Key_Space:
-            return many_ ? current : -1;
+            return many_ || current >= 0 ? current : std::max(0, currentIndex().row());
         default:
             break;
     }
@@ -84,7 +84,7 @@ int ListWidget::line_for(const QKeyEvent& event) const {
 int ListWidget::next_line_with(const QString& letter) const {
     const int count = model()->rowCount();
     for (int step = 1; step <= count; ++step) {
-        const int line = (currentIndex().row() + step) % count;
+        const int line = (from() + step) % count;
         if (model()->index(line, 0).data().toString().startsWith(letter, Qt::CaseInsensitive)) return line;
     }
     return -1;

@@ -31,6 +31,8 @@ public:
     std::function<void(int line)> Chosen;
     // With several selected lines the arrow keys move a mark without choosing.
     void set_many(bool many) { many_ = many; }
+    // The line that is chosen, -1 for none. Qt's own current line tells less: it moves to the first with the focus.
+    void set_chosen(int line) { chosen_ = line; }
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -44,7 +46,10 @@ private:
     int line_for(const QKeyEvent& event) const;
     int next_line_with(const QString& letter) const;
 
+    int from() const { return many_ ? currentIndex().row() : chosen_; }
+
     bool many_ = false;
+    int chosen_ = -1;
     bool pressed_ = false;
 };
 

@@ -16,6 +16,7 @@
 #include "desktop/KeySender.h"
 #include "desktop/QtHost.h"
 #include "desktop/Text.h"
+#include "desktop/Words.h"
 #include "platform/Paths.h"
 #include "platform/SpecialFolders.h"
 
@@ -71,10 +72,10 @@ Answer QtPlatform::message_box(int style, const std::string& title, const std::s
     box.setTextFormat(Qt::PlainText);
     const QAbstractButton* yes = nullptr;
     if (asks) {
-        yes = box.addButton(QStringLiteral("&Ja"), QMessageBox::YesRole);
-        box.setEscapeButton(box.addButton(QStringLiteral("&Nee"), QMessageBox::NoRole));
+        yes = box.addButton(words::kYes, QMessageBox::YesRole);
+        box.setEscapeButton(box.addButton(words::kNo, QMessageBox::NoRole));
     } else {
-        box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+        box.addButton(words::kOk, QMessageBox::AcceptRole);
     }
     box.exec();
     if (!asks) return Answer::Ok;
@@ -103,8 +104,26 @@ void QtPlatform::open(const std::string& file, const std::string& parameters, co
     }
 }
 
+// The opener ends with a failure where the desktop has no program for such a file; Qt would not wait for that.
 void QtPlatform::show_help(const std::string& file) {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(real_path(file)).absoluteFilePath()));
+    const QString path = QFileInfo(real_path(file)).absoluteFilePath();
+    auto* opener = new QProcess(qApp);
+    const auto failed = [this, opener, path] {
+        opener->deleteLater();
+        tell_no_help(path);
+    };
+    QObject::connect(opener, &QProcess::errorOccurred, opener, [failed](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart) failed();
+    });
+    QObject::connect(opener, &QProcess::finished, opener, [failed, opener](int code) {
+        if (code == EXIT_SUCCESS) return opener->deleteLater();
+        failed();
+    });
+    opener->start(QStringLiteral("xdg-open"), {path});
+}
+
+void QtPlatform::tell_no_help(const QString& file) {
+    message_box(box_style::kInformation, from_qt(words::kProgram), from_qt(QString(words::kNoHelpViewer).arg(file)));
 }
 
 std::vector<std::string> QtPlatform::drives() { return mounted_volumes(); }

@@ -3,6 +3,7 @@
 #include <QLockFile>
 #include <memory>
 
+#include "desktop/CapsLock.h"
 #include "desktop/Network.h"
 #include "platform/Platform.h"
 
@@ -26,6 +27,7 @@ public:
     void set_clipboard(const std::string& text) override;
     // An address goes to the browser; a program is started, a file opened by what the desktop has for it.
     void open(const std::string& file, const std::string& parameters, const std::string& folder) override;
+    // Says so where nothing opens it.
     void show_help(const std::string& file) override;
 
     bool connected() override { return network_.connected(); }
@@ -36,10 +38,11 @@ public:
     std::string volume_label(const std::string& root) override;
 
     void send_keys(const std::vector<KeyRecord>& records) override;
-    // The window systems don't tell it cheaply; keys are sent as if it were off.
-    bool caps_lock() const override { return false; }
+    bool caps_lock() const override { return caps_lock_is_on(); }
 
 private:
+    void tell_no_help(const QString& file);
+
     QtHost& host_;
     std::string program_folder_;
     std::unique_ptr<QLockFile> lock_;

@@ -9,6 +9,7 @@ namespace desktop {
 ScrollBarView::ScrollBarView(FormWindow& window, forms::VScrollBar& bar, QWidget* parent)
     : View(window, bar, new QScrollBar(Qt::Vertical, parent)), bar_(bar), widget_(static_cast<QScrollBar&>(widget())) {
     widget_.setContextMenuPolicy(Qt::NoContextMenu);
+    widget_.setFocusPolicy(Qt::TabFocus);
     connect(&widget_, &QScrollBar::valueChanged, this,
             [this](int value) { user_did([this, value] { forms::user::scroll(bar_, value); }); });
 }

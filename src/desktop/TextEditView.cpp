@@ -1,5 +1,6 @@
 #include "desktop/TextEditView.h"
 
+#include <QMimeData>
 #include <QPainter>
 #include <QScrollBar>
 #include <QTextDocument>
@@ -32,6 +33,13 @@ private:
         QPainter painter(viewport());
         painter.fillRect(viewport()->width() - 3, height * bar.value() / whole, 2, height * bar.pageStep() / whole,
                          Qt::gray);
+    }
+    // The widget's own reading of a clipboard asks for the first of its formats, even where it has none.
+    bool canInsertFromMimeData(const QMimeData* source) const override { return source && source->hasText(); }
+    void insertFromMimeData(const QMimeData* source) override {
+        if (!canInsertFromMimeData(source)) return;
+        insertPlainText(source->text());
+        ensureCursorVisible();
     }
     void scrollContentsBy(int, int) override { viewport()->update(); }
 };

@@ -33,6 +33,7 @@ void View::show_common() {
     if (widget_->geometry() != wanted_place) widget_->setGeometry(wanted_place);
     const QFont wanted = font();
     if (widget_->font() != wanted || !widget_->testAttribute(Qt::WA_SetFont)) widget_->setFont(wanted);
+    if (!control_.TabStop() && (widget_->focusPolicy() & Qt::TabFocus)) widget_->setFocusPolicy(Qt::ClickFocus);
     if (!control_.AccessibleName().empty()) widget_->setAccessibleName(to_qt(control_.AccessibleName()));
     if (widget_->isEnabledTo(widget_->parentWidget()) != control_.Enabled()) widget_->setEnabled(control_.Enabled());
     if (widget_->isVisibleTo(widget_->parentWidget()) != control_.Visible()) widget_->setVisible(control_.Visible());
@@ -47,7 +48,7 @@ void View::user_did(const std::function<void()>& event) {
 bool View::focus_came(Qt::FocusReason reason) {
     const bool by_user = reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason ||
                          reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
-    if (!by_user) return true;
+    if (!by_user || window_.flushing()) return true;
     window_.act([this] { forms::user::focus(control_); });
     return !window_.retired() && window_.focusWidget() == widget_;
 }

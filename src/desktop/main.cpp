@@ -13,6 +13,7 @@
 #include "desktop/QtPlatform.h"
 #include "desktop/Style.h"
 #include "desktop/Text.h"
+#include "desktop/Words.h"
 #include "resources/Icon.h"
 #include "services/Programma.h"
 
@@ -29,7 +30,7 @@ QIcon program_icon() {
 // The folder given, or none.
 std::string program_folder(const QApplication& application) {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Zandolin Lomert"));
+    parser.setApplicationDescription(desktop::words::kProgram);
     parser.addHelpOption();
     const QCommandLineOption folder(QStringLiteral("program"), QStringLiteral("The folder with the program's data."),
                                     QStringLiteral("DIR"));
@@ -41,7 +42,7 @@ std::string program_folder(const QApplication& application) {
 
 // A failure that no routine catches ends the program with its plain text.
 void end_by_failure(const std::string& what) {
-    QMessageBox::critical(nullptr, QStringLiteral("Zandolin Lomert"), desktop::to_qt(what));
+    QMessageBox::critical(nullptr, desktop::words::kProgram, desktop::to_qt(what));
     QCoreApplication::exit(EXIT_FAILURE);
 }
 
@@ -51,7 +52,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setStyle(new desktop::Style);
     QApplication::setPalette(desktop::Style::colours());
-    QApplication::setApplicationName(QStringLiteral("Zandolin Lomert"));
+    QApplication::setApplicationName(desktop::words::kProgram);
     QApplication::setWindowIcon(program_icon());
     QApplication::setQuitOnLastWindowClosed(false);
 

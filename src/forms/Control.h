@@ -65,6 +65,8 @@ public:
     Property<double> FontSize{*this, "FontSize", 8.25};
     Property<bool> FontBold{*this, "FontBold", false};
     Property<int> BorderStyle{*this, "BorderStyle", 0};
+    // False: Tab passes it by, as what no user sees and what hands the focus on.
+    Property<bool> TabStop{*this, "TabStop", true};
     // What a screen reader says where the text on the control does not say it; empty for the text itself.
     Property<std::string> AccessibleName{*this, "AccessibleName"};
 

@@ -69,11 +69,12 @@ int ListBox::find(std::string_view text, Match match) const {
 }
 
 void ListBox::user_select(int line) {
-    Line& asked = line_at(line);
-    if (MultiSelect) asked.selected = !asked.selected;
+    const bool there = line < ListCount();
+    if (there && MultiSelect) line_at(line).selected = !line_at(line).selected;
     ListIndex.store(line);
     changed();
     if (Click) Click();
+    if (ListIndex >= ListCount()) ListIndex.store(-1);
 }
 
 void ListBox::assign_index(int index) {

@@ -44,7 +44,8 @@ public:
     // The first line that begins with the text, or equals it, without regard to case; -1 if there is none.
     int find(std::string_view text, Match match) const;
 
-    // What a user's click does: makes the line current, or toggles it; raises Click always.
+    // What a user's click does: makes the line current, or toggles it; raises Click always. A line that is not there any
+    // more is current only as long as Click runs, so that the routine fails that reads it.
     void user_select(int line);
 
     // Goes up whenever the lines change, so that a host can tell that from a change of the selection.

@@ -54,6 +54,7 @@ Refusal click_cell(FlexGrid& grid, int row, int col) {
 }
 
 Refusal select(ListBox& list, int line) {
+    list.List(line);  // what is not there now was never seen
     return act_on(list, [&] { list.user_select(line); });
 }
 

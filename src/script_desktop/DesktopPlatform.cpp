@@ -16,7 +16,8 @@ namespace {
 // Rounds of the event loop until a box must have come.
 constexpr int kMostTries = 1000;
 
-Qt::Key key_of(Answer answer) {
+Qt::Key key_of(int style, Answer answer) {
+    if (style == box_style::kInformation) return Qt::Key_Return;  // whatever was queued
     return answer == Answer::Yes ? Qt::Key_J : answer == Answer::No ? Qt::Key_N : Qt::Key_Return;
 }
 
@@ -31,21 +32,26 @@ Answer DesktopPlatform::message_box(int style, const std::string& title, const s
     const Answer given = real_.message_box(style, title, text);
     // As a window manager does when the box has gone.
     if (host_.front()) host_.front()->activateWindow();
+    if (style == box_style::kInformation) return wanted;
     if (given != wanted) difference_ = "the box was answered " + std::to_string(static_cast<int>(given)) + ": " + text;
     return given;
 }
 
 void DesktopPlatform::answer_by_key(const Box& wanted, int tries) {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (!box || !box->isActiveWindow()) {
-        if (tries == kMostTries) return;
+    const bool ready = box && box->isActiveWindow();
+    if (!ready && tries < kMostTries) {
         QTimer::singleShot(0, [this, wanted, tries] { answer_by_key(wanted, tries + 1); });
         return;
     }
+    if (!box) return;
     if (box->windowTitle() != desktop::to_qt(wanted.title) || box->text() != desktop::to_qt(wanted.text)) {
         difference_ = "the box shows " + desktop::from_qt(box->windowTitle() + ": " + box->text());
     }
-    QTest::keyClick(box->windowHandle(), key_of(wanted.answer));
+    if (ready) QTest::keyClick(box->windowHandle(), key_of(wanted.style, wanted.answer));
+    if (!box->isVisible()) return;
+    difference_ = "the box does not take the key of its answer: " + wanted.text;
+    box->done(0);
 }
 
 void DesktopPlatform::set_clipboard(const std::string& text) {

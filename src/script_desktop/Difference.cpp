@@ -214,7 +214,8 @@ std::string difference(const forms::Form& form, const desktop::FormWindow& windo
 std::string difference(const desktop::QtHost& host, const forms::Windows& windows) {
     for (const forms::Form* form : windows.loaded()) {
         const desktop::FormWindow* window = host.window(form);
-        if (!window) return form->name() + ": has no window";
+        if (!window && form->Visible()) return form->name() + ": has no window";
+        if (!window) continue;
         if (std::string found = difference(*form, *window); !found.empty()) return found;
         for (const forms::Control* control : form->controls()) {
             if (std::string found = difference(*control, *window); !found.empty()) return found;

@@ -5,7 +5,10 @@
 
 std::string Scherm::LeesResString(int nummer) const { return Bas_Aftavrin::LeesResString(programma, nummer); }
 
-void Scherm::zet_buiten_beeld(forms::Control& control) { control.Left = windows().host().screen_size().width + 10; }
+void Scherm::zet_buiten_beeld(forms::Control& control) {
+    control.Left = windows().host().screen_size().width + 10;
+    control.TabStop = false;
+}
 
 void Scherm::bewaar_keuze(const forms::CheckBox& keuze) {
     Bas_Aftavrin::SchrijfINI(programma, "Standaard", keuze.name(), std::to_string(keuze.Value),

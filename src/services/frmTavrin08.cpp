@@ -53,10 +53,11 @@ void frmTavrin08::Form_Load() {
     for (const int i : {3, 4, 5}) lblWatWaar(i).Left = lblWatWaar(1).Left;
     lblWatWaar(4).Caption = LeesResString(94);
 
-    // The window is as wide as the longest line needs.
+    // The window is as wide as the longest line needs, as far as the screen goes.
     for (auto* labels : {&lblWatWaar, &lblFoutInfo}) {
         for (const auto& [index, label] : *labels) Width = std::max(Width(), label->right() + kMarge);
     }
+    Width = std::max(kInner.width, std::min(Width(), windows().host().screen_size().width - 2 * kMarge));
     centreer();
 }
 

@@ -75,7 +75,10 @@ frmTavrin02::frmTavrin02(Programma& programma)
     cmdVerder.Click = [this] { cmdVerder_Click(); };
     vscrSnelHeid.Change = [this] { vscrSnelHeid_Change(); };
     timSpeelKaart.Tick = [this] { timSpeelKaart_Timer(); };
-    for (auto* doos : {&txtInformatie, &txtVraag, &txtSnelHeid}) doos->GotFocus = [this] { cmdFocus.SetFocus(); };
+    for (auto* doos : {&txtInformatie, &txtVraag, &txtSnelHeid}) {
+        doos->GotFocus = [this] { cmdFocus.SetFocus(); };
+        doos->TabStop = false;
+    }
 }
 
 // What the screen looks like before its load places the rest.
@@ -122,7 +125,7 @@ void frmTavrin02::stel_uiterlijk_in() {
     }
     lblUitkomstKaart.Visible = false;
     for (forms::PictureBox* symbool : {&picContract, &picUitkomst}) {
-        symbool->BackColor = kWit;
+        symbool->Opaque = false;
         symbool->Visible = false;
     }
     for (forms::TextBox* doos : {&txtVraag, &txtInformatie, &txtKnipTekst}) {

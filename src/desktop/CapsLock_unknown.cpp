@@ -1,0 +1,7 @@
+#include "desktop/CapsLock.h"
+
+namespace desktop {
+
+bool caps_lock_is_on() { return false; }
+
+}  // namespace desktop
