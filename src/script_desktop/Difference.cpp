@@ -1,6 +1,7 @@
 #include "script_desktop/Difference.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QListView>
@@ -140,10 +141,18 @@ void compare_picture(Comparison& comparison, const forms::Control& control, cons
     comparison.expect("Picture", desktop::to_qt(wanted), desktop::to_qt(property_text(view.shown_picture())));
 }
 
+// A label that lies behind other controls shows the words that are free, and the whole text as its tool tip.
+void compare_label(Comparison& comparison, const forms::Label& label, const desktop::LabelView& view) {
+    const QString shown = view.shown_words();
+    const QString words = desktop::to_qt(label.Caption());
+    const bool a_part = view.widget().toolTip() == desktop::to_qt(desktop::without_mark(label.Caption()));
+    if (!a_part || shown.isEmpty() || !words.contains(shown)) comparison.expect_words(label.Caption, shown);
+}
+
 void compare_kind(Comparison& comparison, const forms::Control& control, const desktop::View& view) {
     const QWidget& widget = view.widget();
     if (const auto* label = dynamic_cast<const forms::Label*>(&control)) {
-        comparison.expect_words(label->Caption, dynamic_cast<const desktop::LabelView&>(view).shown_words());
+        compare_label(comparison, *label, dynamic_cast<const desktop::LabelView&>(view));
     } else if (const auto* button = dynamic_cast<const forms::CommandButton*>(&control)) {
         comparison.expect_words(button->Caption, dynamic_cast<const QAbstractButton&>(widget).text());
     } else if (const auto* tick = dynamic_cast<const forms::CheckBox*>(&control)) {
@@ -209,6 +218,17 @@ std::string difference(const forms::Form& form, const desktop::FormWindow& windo
     return comparison.found();
 }
 
+// The window of another program may be the active one.
+std::string window_in_front(const desktop::QtHost& host, const forms::Windows& windows) {
+    const desktop::FormWindow* front = host.front();
+    if (!front || front->isActiveWindow()) return {};
+    const auto is_active = [&](const forms::Form* form) {
+        return host.window(form) && host.window(form)->isActiveWindow();
+    };
+    const bool ours = !QApplication::activeWindow() || std::ranges::any_of(windows.loaded(), is_active);
+    return ours ? front->form().name() + ": is not in front" : std::string();
+}
+
 }  // namespace
 
 std::string difference(const desktop::QtHost& host, const forms::Windows& windows) {
@@ -221,8 +241,7 @@ std::string difference(const desktop::QtHost& host, const forms::Windows& window
             if (std::string found = difference(*control, *window); !found.empty()) return found;
         }
     }
-    if (host.front() && !host.front()->isActiveWindow()) return host.front()->form().name() + ": is not in front";
-    return {};
+    return window_in_front(host, windows);
 }
 
 }  // namespace script_desktop
