@@ -89,54 +89,11 @@ TEST(MainScreen, SortsTheOtherWayAtEachClickAndForgetsIt) {
     EXPECT_EQ(list(program), up);
 }
 
-class Deleting : public testing::Test {
-protected:
-    Deleting() {
-        program.install_companion();
-        add_deals(program, {"QVT_Spel 1", "QVT_Spel 2"});
-        program("start\nselect frmTavrin01.lstSpellen 0");
-    }
-    void expect_nothing_chosen() {
-        EXPECT_EQ(get(program, "lstSpellen.ListIndex"), "-1");
-        EXPECT_EQ(enabled(program), "NieuwSpel KaartenEditor ImportExport ");
-        EXPECT_EQ(get(program, "ActiveControl"), "cmdFocus");
-        EXPECT_EQ(program("boxes"),
-                  "36\tZandolin Lomert\tWeet u zeker dat u spel QVT_Spel 1 wilt wissen?\t" + answer + "\n.");
-        EXPECT_EQ(program.shared("foutPlaats"), "");
-    }
-
+TEST(Deleting, ReportsAFolderThatVanished) {
     Program program;
-    std::string answer;
-};
-
-TEST_F(Deleting, IsLeftAtNo) {
-    answer = "no";
-    const auto before = program.tree("aftavrin");
-    program("answer no\nclick frmTavrin01.cmdWissen");
-    expect_nothing_chosen();
-    EXPECT_EQ(list(program), "QVT_Spel 1|QVT_Spel 2|");
-    EXPECT_EQ(program.tree("aftavrin"), before);
-}
-
-TEST_F(Deleting, TakesFilesAndFolder) {
-    answer = "yes";
-    program("answer yes\nclick frmTavrin01.cmdWissen");
-    expect_nothing_chosen();
-    EXPECT_EQ(list(program), "QVT_Spel 2|");
-    EXPECT_FALSE(program.exists("aftavrin/QVT_Spel 1"));
-    EXPECT_TRUE(program.exists("aftavrin/QVT_Spel 2/QVT_Spel 2 aftavrin.txt"));
-}
-
-TEST_F(Deleting, ReportsWhatStandsInItsWayAndKeepsWhatItDid) {
-    program.write("aftavrin/QVT_Spel 1/.hidden", "x");
-    program("answer yes\nclick frmTavrin01.cmdWissen");
-    EXPECT_EQ(program.shared("foutPlaats"), "frmTavrin01 - cmdWissen - Click");
-    EXPECT_EQ(program.shared("foutNummer"), "75");
-    EXPECT_EQ(program.tree("aftavrin/QVT_Spel 1"), std::vector<std::string>{"aftavrin/QVT_Spel 1/.hidden = x"});
-    EXPECT_EQ(program("screens"), "frmTavrin08 visible\nfrmTavrin01 visible\n.");
-}
-
-TEST_F(Deleting, ReportsAFolderThatVanished) {
+    program.install_companion();
+    add_deals(program, {"QVT_Spel 1", "QVT_Spel 2"});
+    program("start\nselect frmTavrin01.lstSpellen 0");
     std::filesystem::remove_all(program.path("aftavrin/QVT_Spel 1"));
     program("click frmTavrin01.cmdWissen");
     EXPECT_EQ(program.shared("foutNummer"), "76");
