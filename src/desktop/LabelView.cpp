@@ -32,6 +32,7 @@ public:
         content_ = std::move(content);
         update();
     }
+    const Content& content() const { return content_; }
 
 private:
     void paint_content(QPainter& painter, const QRect& inside) override {
@@ -51,6 +52,13 @@ private:
 LabelView::LabelView(FormWindow& window, forms::Label& label, QWidget* parent)
     : View(window, label, new LabelWidget(parent)), label_(label), widget_(static_cast<LabelWidget&>(widget())) {
     widget_.Clicked = [this] { user_did([this] { forms::user::click(label_); }); };
+}
+
+QString LabelView::shown_words() const {
+    QStringList lines;
+    for (const LabelWidget::Line& line : widget_.content().lines)
+        lines << line.text;
+    return lines.join(u'\n');
 }
 
 double LabelView::pixels(double twips) const { return twips / forms::kTwipsPerPixel * scale().zoom(); }

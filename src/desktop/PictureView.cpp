@@ -37,6 +37,7 @@ public:
         stretch_ = stretch;
         update();
     }
+    const forms::Picture& picture() const { return picture_; }
 
 private:
     void paint_content(QPainter& painter, const QRect& inside) override {
@@ -97,6 +98,8 @@ PictureView::PictureView(FormWindow& window, forms::Image& image, QWidget* paren
     };
     widget_.Clicked = [this] { user_did([this] { forms::user::click(control()); }); };
 }
+
+const forms::Picture& PictureView::shown_picture() const { return widget_.picture(); }
 
 void PictureView::show_state() { show_(); }
 

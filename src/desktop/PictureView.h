@@ -16,6 +16,8 @@ public:
     PictureView(FormWindow& window, forms::PictureBox& box, QWidget* parent);
     PictureView(FormWindow& window, forms::Image& image, QWidget* parent);
 
+    const forms::Picture& shown_picture() const;
+
 private:
     void show_state() override;
 

@@ -50,7 +50,7 @@ forms::Size QtHost::screen_size() const {
 void QtHost::act(const std::function<void()>& event) {
     if (!windows_ || (windows_->dispatching() && !within_event_)) return;
     try {
-        event();
+        Run(event);
     } catch (const std::exception& failure) {
         windows_ = nullptr;  // no timer goes on behind the message
         if (Failed) Failed(failure.what());

@@ -37,6 +37,11 @@ public:
     // What is called with the text of a failure that no routine caught.
     std::function<void(const std::string& what)> Failed;
 
+    // How an event is run.
+    std::function<void(const std::function<void()>& event)> Run = [](const auto& event) { event(); };
+    // False: the timers don't tick by themselves.
+    bool own_time = true;
+
     const Scale& scale() const { return scale_; }
     PictureCache& pictures() { return pictures_; }
     QPoint screen_corner() const;  // of the part of the screen that windows may use

@@ -66,10 +66,15 @@ void TextBoxView::text_changed() {
     const std::string added = from_qt(now.mid(kept_start, now.size() - rest - kept_start));
     const int from = old.core_position(kept_start);
     const int to = old.core_position(static_cast<int>(before.size()) - rest);
-    user_did([this, &added, from, to] {
-        box_.SelStart = from;
-        box_.SelLength = to - from;
-        forms::user::type(box_, added);
+    user_did([this, &added, &now, from, to, caret = cursor()] {
+        box_.form().windows().dispatch([&] {
+            box_.SelStart = from;
+            box_.SelLength = to - from;
+            forms::user::type(box_, added);
+            // What was typed may be what stood there: the caret is behind it all the same.
+            const BoxText text(box_.Text(), box_.MultiLine);
+            if (text.shown() == now) box_.SelStart = text.core_position(caret);
+        });
     });
 }
 

@@ -17,6 +17,7 @@ public:
     void refresh();
 
 private:
+    const FormWindow& window_;
     forms::Timer& timer_;
 };
 

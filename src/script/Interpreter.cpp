@@ -20,10 +20,14 @@ namespace {
 
 std::string outcome(forms::Refusal refusal) {
     switch (refusal) {
-        case forms::Refusal::None: return "ok";
-        case forms::Refusal::Hidden: return "refused: hidden";
-        case forms::Refusal::Disabled: return "refused: disabled";
-        case forms::Refusal::TimerOff: break;
+        case forms::Refusal::None:
+            return "ok";
+        case forms::Refusal::Hidden:
+            return "refused: hidden";
+        case forms::Refusal::Disabled:
+            return "refused: disabled";
+        case forms::Refusal::TimerOff:
+            break;
     }
     return "refused: timer off";
 }
@@ -50,30 +54,32 @@ Kind& find_control(const forms::Windows& windows, const std::string& name) {
 template <class Items, class Line>
 std::string lines_of(const Items& items, Line line) {
     std::string answer;
-    for (const auto& item : items) answer += line(item) + "\n";
+    for (const auto& item : items)
+        answer += line(item) + "\n";
     return answer + ".";
 }
 
 std::string value(const std::string& text) { return "= " + escaped(text); }
 
-std::string style_word(Answer answer) {
-    return answer == Answer::Yes ? "yes" : answer == Answer::No ? "no" : "ok";
-}
+std::string style_word(Answer answer) { return answer == Answer::Yes ? "yes" : answer == Answer::No ? "no" : "ok"; }
 
 }  // namespace
 
-Interpreter::Interpreter(const std::string& program_folder) : platform(program_folder), programma(platform, host) {}
+Interpreter::Interpreter(std::unique_ptr<Stage> stage)
+    : stage_(std::move(stage)), platform(stage_->platform()), programma(platform, *stage_) {
+    stage_->attach(programma.windows);
+}
 
 const std::map<std::string, Interpreter::Command>& Interpreter::commands() {
     using I = Interpreter;
     static const std::map<std::string, Command> table{
-        {"start", &I::start},       {"click", &I::click},       {"select", &I::select},   {"type", &I::type},
-        {"text", &I::text},         {"scroll", &I::scroll},     {"key", &I::key},         {"close", &I::close},
-        {"activate", &I::activate}, {"resize", &I::resize},     {"window", &I::window},   {"tick", &I::tick},
-        {"wait", &I::wait},         {"answer", &I::answer},     {"get", &I::get},         {"dump", &I::dump},
-        {"screens", &I::screens},   {"shared", &I::shared},     {"boxes", &I::boxes},     {"clipboard", &I::clipboard},
-        {"opened", &I::opened},     {"keys", &I::keys},         {"online", &I::online},   {"serve", &I::serve},
-        {"drive", &I::drive},       {"nodrives", &I::nodrives}, {"screen", &I::screen},   {"quit", &I::quit},
+        {"start", &I::start},       {"click", &I::click},       {"select", &I::select}, {"type", &I::type},
+        {"text", &I::text},         {"scroll", &I::scroll},     {"key", &I::key},       {"close", &I::close},
+        {"activate", &I::activate}, {"resize", &I::resize},     {"window", &I::window}, {"tick", &I::tick},
+        {"wait", &I::wait},         {"answer", &I::answer},     {"get", &I::get},       {"dump", &I::dump},
+        {"screens", &I::screens},   {"shared", &I::shared},     {"boxes", &I::boxes},   {"clipboard", &I::clipboard},
+        {"opened", &I::opened},     {"keys", &I::keys},         {"online", &I::online}, {"serve", &I::serve},
+        {"drive", &I::drive},       {"nodrives", &I::nodrives}, {"screen", &I::screen}, {"quit", &I::quit},
     };
     return table;
 }
@@ -84,22 +90,29 @@ std::string Interpreter::run(const std::string& line) {
     const auto command = commands().find(word);
     const bool after_the_end = word == "clipboard" || word == "opened" || word == "boxes" || word == "quit";
     if (programma.windows.ended() && !after_the_end) return "ended";
-    if (command == commands().end()) {
-        failed_ = true;
-        return "error: no command " + to_utf8(word);
-    }
-    return to_utf8(carry_out(command->second, rest));
+    if (command == commands().end()) return error("no command " + word);
+    const std::string answer = carry_out(command->second, rest);
+    if (answer.starts_with("error: ") || programma.windows.ended()) return answer;
+    const std::string difference = stage_->difference();
+    return difference.empty() ? answer : error(difference);
+}
+
+std::string Interpreter::error(const std::string& why) {
+    failed_ = true;
+    return "error: " + to_utf8(escaped(why));
 }
 
 std::string Interpreter::carry_out(Command command, const std::string& arguments) {
     try {
-        return (this->*command)(arguments);
-    } catch (const std::exception& error) {
-        failed_ = true;
-        return std::string("error: ") + escaped(error.what());
+        return to_utf8((this->*command)(arguments));
+    } catch (const CommandError& wrong) {
+        return error(wrong.what());
+    } catch (const std::exception& failure) {
+        stage_->broken_off();
+        return error(failure.what());
     } catch (const ScriptPlatform::NoAnswer& none) {
-        failed_ = true;
-        return "error: no answer to " + escaped(none.question);
+        stage_->broken_off();
+        return error("no answer to " + none.question);
     }
 }
 
@@ -111,39 +124,38 @@ std::string Interpreter::start(const std::string&) {
 std::string Interpreter::click(const std::string& arguments) {
     const Target target = find_target(programma.windows, arguments);
     if (target.part) {
-        return outcome(
-            forms::user::click_cell(control_of<forms::FlexGrid>(target, arguments), target.row, target.col));
+        return outcome(stage_->click_cell(control_of<forms::FlexGrid>(target, arguments), target.row, target.col));
     }
-    return outcome(forms::user::click(control_of<forms::Control>(target, arguments)));
+    return outcome(stage_->click(control_of<forms::Control>(target, arguments)));
 }
 
 std::string Interpreter::select(const std::string& arguments) {
     const auto [name, line] = word_and_rest(arguments);
-    return outcome(forms::user::select(find_control<forms::ListBox>(programma.windows, name), whole_number(line)));
+    return outcome(stage_->select(find_control<forms::ListBox>(programma.windows, name), whole_number(line)));
 }
 
 std::string Interpreter::type(const std::string& arguments) {
     const auto [name, typed] = word_and_rest(arguments);
-    return outcome(forms::user::type(find_control<forms::TextBox>(programma.windows, name), unescaped(typed)));
+    return outcome(stage_->type(find_control<forms::TextBox>(programma.windows, name), unescaped(typed)));
 }
 
 std::string Interpreter::text(const std::string& arguments) {
     const auto [name, typed] = word_and_rest(arguments);
-    return outcome(forms::user::type_all(find_control<forms::TextBox>(programma.windows, name), unescaped(typed)));
+    return outcome(stage_->type_all(find_control<forms::TextBox>(programma.windows, name), unescaped(typed)));
 }
 
 std::string Interpreter::scroll(const std::string& arguments) {
     const auto [name, position] = word_and_rest(arguments);
-    return outcome(forms::user::scroll(find_control<forms::VScrollBar>(programma.windows, name), whole_number(position)));
+    return outcome(stage_->scroll(find_control<forms::VScrollBar>(programma.windows, name), whole_number(position)));
 }
 
 std::string Interpreter::key(const std::string& arguments) {
     const auto [name, which] = word_and_rest(arguments);
     forms::Form& form = find_form(programma.windows, name);
     if (which == "escape") {
-        forms::user::key(form, forms::kKeyEscape);
+        stage_->escape(form);
     } else if (which == "f1") {
-        forms::user::help(form);
+        stage_->help(form);
     } else {
         throw CommandError("no key " + which);
     }
@@ -151,19 +163,19 @@ std::string Interpreter::key(const std::string& arguments) {
 }
 
 std::string Interpreter::close(const std::string& arguments) {
-    forms::user::close(find_form(programma.windows, arguments));
+    stage_->close(find_form(programma.windows, arguments));
     return "ok";
 }
 
 std::string Interpreter::activate(const std::string& arguments) {
-    forms::user::activate(find_form(programma.windows, arguments));
+    stage_->activate(find_form(programma.windows, arguments));
     return "ok";
 }
 
 std::string Interpreter::resize(const std::string& arguments) {
     const auto [name, size] = word_and_rest(arguments);
     const auto [width, height] = word_and_rest(size);
-    forms::user::resize(find_form(programma.windows, name), number(width), number(height));
+    stage_->resize(find_form(programma.windows, name), number(width), number(height));
     return "ok";
 }
 
@@ -175,7 +187,7 @@ std::string Interpreter::window(const std::string& arguments) {
                                                                   {"maximised", forms::WindowState::Maximised}};
     const auto wanted = states.find(state);
     if (wanted == states.end()) throw CommandError("no window state " + state);
-    forms::user::change_state(form, wanted->second);
+    stage_->change_state(form, wanted->second);
     return "ok";
 }
 
@@ -186,7 +198,7 @@ std::string Interpreter::tick(const std::string& arguments) {
 std::string Interpreter::wait(const std::string& arguments) {
     const int milliseconds = whole_number(arguments);
     if (milliseconds < 0) throw CommandError("time does not go back");
-    host.wait(programma.windows, milliseconds);
+    stage_->clock.wait(programma.windows, milliseconds);
     return "ok";
 }
 
@@ -207,9 +219,8 @@ std::string Interpreter::dump(const std::string& arguments) {
 }
 
 std::string Interpreter::screens(const std::string&) {
-    return lines_of(programma.windows.in_front_order(), [](const forms::Form* form) {
-        return form->name() + (form->Visible() ? " visible" : " hidden");
-    });
+    return lines_of(programma.windows.in_front_order(),
+                    [](const forms::Form* form) { return form->name() + (form->Visible() ? " visible" : " hidden"); });
 }
 
 std::string Interpreter::shared(const std::string& arguments) {
@@ -266,7 +277,7 @@ std::string Interpreter::nodrives(const std::string&) {
 
 std::string Interpreter::screen(const std::string& arguments) {
     const auto [width, height] = word_and_rest(arguments);
-    host.screen = {number(width), number(height)};
+    stage_->screen = {number(width), number(height)};
     return "ok";
 }
 

@@ -2,11 +2,11 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
-#include "script/ScriptHost.h"
-#include "script/ScriptPlatform.h"
+#include "script/Stage.h"
 #include "services/Programma.h"
 
 namespace forms {
@@ -15,25 +15,29 @@ class Control;
 
 namespace script {
 
-// A program without a window, driven by commands, one a line. Lines and answers are UTF-8.
+// A program driven by commands, one a line. Lines and answers are UTF-8.
 class Interpreter {
 public:
-    explicit Interpreter(const std::string& program_folder);
+    explicit Interpreter(std::unique_ptr<Stage> stage);
 
     // Carries out one line and gives the answer, of one line or more, without a line end; empty for a blank line, a
-    // comment, and after `quit`.
+    // comment, and after `quit`. What the stage does not show as the program has it is an error.
     std::string run(const std::string& line);
 
     bool finished() const { return finished_; }  // after `quit`
     bool failed() const { return failed_; }      // some command was wrong
 
-    ScriptPlatform platform;
-    ScriptHost host;
+private:
+    const std::unique_ptr<Stage> stage_;
+
+public:
+    ScriptPlatform& platform;
     Programma programma;
 
 private:
     using Command = std::string (Interpreter::*)(const std::string& arguments);
     static const std::map<std::string, Command>& commands();
+    std::string error(const std::string& why);
     std::string carry_out(Command command, const std::string& arguments);
 
     std::string start(const std::string& arguments);

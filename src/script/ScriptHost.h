@@ -1,35 +1,34 @@
 #pragma once
 
-#include <map>
+#include <utility>
 
-#include "forms/Windows.h"
-
-namespace forms {
-class Timer;
-}
+#include "script/Stage.h"
 
 namespace script {
 
-// Carries the forms without showing them; its clock is virtual.
-class ScriptHost final : public forms::Host {
+// Carries the forms without showing them: what the user does goes straight to the controls.
+class ScriptHost final : public Stage {
 public:
-    forms::Size screen{28800, 15600};  // 1920 by 1040 pixels: a common screen less its task bar
+    explicit ScriptHost(std::string program_folder);
 
-    forms::Size screen_size() const override { return screen; }
+    ScriptPlatform& platform() override { return platform_; }
     void dispatch_ended(forms::Windows& windows) override;
 
-    // Lets time pass: all timers that fall due fire in order.
-    void wait(forms::Windows& windows, long milliseconds);
+    forms::Refusal click(forms::Control& control) override;
+    forms::Refusal click_cell(forms::FlexGrid& grid, int row, int col) override;
+    forms::Refusal select(forms::ListBox& list, int line) override;
+    forms::Refusal type(forms::TextBox& box, const std::string& text) override;
+    forms::Refusal type_all(forms::TextBox& box, const std::string& text) override;
+    forms::Refusal scroll(forms::VScrollBar& bar, int value) override;
+    void escape(forms::Form& form) override;
+    void help(forms::Form& form) override;
+    void close(forms::Form& form) override;
+    void activate(forms::Form& form) override;
+    void resize(forms::Form& form, double width, double height) override;
+    void change_state(forms::Form& form, forms::WindowState state) override;
 
 private:
-    struct Running {
-        int interval;
-        long due;  // milliseconds of the virtual clock
-    };
-    void follow_timers(forms::Windows& windows);
-
-    long now_ = 0;
-    std::map<forms::Timer*, Running> running_;
+    ScriptPlatform platform_;
 };
 
 }  // namespace script

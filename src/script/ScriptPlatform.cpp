@@ -39,7 +39,8 @@ bool ScriptPlatform::download(const std::string& url, const std::string& path) {
 
 std::vector<std::string> ScriptPlatform::drives() {
     std::vector<std::string> roots;
-    for (const Drive& drive : drive_list) roots.push_back(drive.root);
+    for (const Drive& drive : drive_list)
+        roots.push_back(drive.root);
     return roots;
 }
 
@@ -55,6 +56,7 @@ std::string ScriptPlatform::volume_label(const std::string& root) {
 
 void ScriptPlatform::send_keys(const std::vector<KeyRecord>& records) {
     keys.insert(keys.end(), records.begin(), records.end());
+    if (KeysSent) KeysSent(records);
 }
 
 const ScriptPlatform::Drive* ScriptPlatform::find_drive(const std::string& root) const {

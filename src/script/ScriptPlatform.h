@@ -12,7 +12,7 @@ namespace script {
 
 // A platform without a window system, network, sticks or viewers: what is there is told to it, and what was asked of
 // it can be looked at.
-class ScriptPlatform final : public Platform {
+class ScriptPlatform : public Platform {
 public:
     explicit ScriptPlatform(std::string program_folder) : program_folder_(std::move(program_folder)) {}
 
@@ -51,6 +51,8 @@ public:
     bool caps_lock_on = false;
     // Called before a box is answered; for tests that act while one stands.
     std::function<void()> while_box_stands;
+    // What the keys that the program sends do.
+    std::function<void(const std::vector<KeyRecord>&)> KeysSent;
 
     std::string program_folder() const override { return program_folder_; }
     std::string special_folder(int number) const override;

@@ -1,79 +1,34 @@
-#include <filesystem>
-#include <fstream>
-#include <iostream>
-#include <string>
+#include <unistd.h>
 
-#include "platform/CodePage.h"
-#include "platform/Paths.h"
-#include "platform/SpecialFolders.h"
-#include "script/Interpreter.h"
+#include <algorithm>
+#include <filesystem>
+#include <iostream>
+#include <string_view>
+#include <vector>
+
+#include "script/CommandLine.h"
+#include "script/ScriptHost.h"
 
 namespace {
 
-struct Options {
-    std::string program = ".";
-    std::string program_files;
-    std::string program_files_x86;
-    std::string file;
-    bool wrong = false;
-};
+constexpr std::string_view kDesktop = "--desktop";
 
-Options read_options(int argc, char** argv) {
-    Options options;
-    for (int i = 1; i < argc; ++i) {
-        const std::string word = argv[i];
-        std::string* value = word == "--program"             ? &options.program
-                             : word == "--program-files"     ? &options.program_files
-                             : word == "--program-files-x86" ? &options.program_files_x86
-                                                             : nullptr;
-        if (value && i + 1 < argc) {
-            *value = argv[++i];
-        } else if (!value && !word.starts_with("--") && options.file.empty()) {
-            options.file = word;
-        } else {
-            options.wrong = true;
-        }
-    }
-    return options;
-}
-
-std::string absolute_text(const std::string& path) { return path_text(std::filesystem::absolute(path).lexically_normal()); }
-
-std::string folder_text(const std::string& path) {
-    std::string text = absolute_text(path);
-    while (text.size() > 1 && text.ends_with(kPathSeparator)) text.pop_back();
-    return text;
-}
-
-int run(std::istream& commands, const Options& options) {
-    script::Interpreter interpreter(folder_text(options.program));
-    if (!options.program_files.empty()) {
-        interpreter.platform.special_folders[kProgramFiles] = folder_text(options.program_files);
-    }
-    if (!options.program_files_x86.empty()) {
-        interpreter.platform.special_folders[kProgramFilesX86] = folder_text(options.program_files_x86);
-    }
-    for (std::string line; !interpreter.finished() && std::getline(commands, line);) {
-        if (line.ends_with('\r')) line.pop_back();
-        const std::string answer = interpreter.run(line);
-        if (!answer.empty()) std::cout << answer << std::endl;
-    }
-    return interpreter.failed() ? 1 : 0;
+// Goes on as the program beside this one that has real windows. Returns only where there is none.
+int go_on_with_windows(std::vector<char*> arguments) {
+    std::erase(arguments, kDesktop);
+    arguments.push_back(nullptr);
+    const auto sibling = std::filesystem::read_symlink("/proc/self/exe").parent_path() / "zandolin_script_desktop";
+    execv(sibling.c_str(), arguments.data());
+    std::cerr << sibling.string() << " is not there: the program was built without Qt\n";
+    return 1;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    const Options options = read_options(argc, argv);
-    if (options.wrong) {
-        std::cerr << "usage: zandolin_script [--program DIR] [--program-files DIR] [--program-files-x86 DIR] [FILE]\n";
-        return 2;
-    }
-    if (options.file.empty()) return run(std::cin, options);
-    std::ifstream file(options.file);
-    if (!file) {
-        std::cerr << "cannot read " << options.file << "\n";
-        return 2;
-    }
-    return run(file, options);
+    const std::vector<char*> arguments(argv, argv + argc);
+    if (std::ranges::find(arguments, kDesktop) != arguments.end()) return go_on_with_windows(arguments);
+    return script::run_command_line(argc, argv, [](const std::string& program_folder) {
+        return std::make_unique<script::ScriptHost>(program_folder);
+    });
 }

@@ -157,7 +157,9 @@ TEST(Network, FollowsAServerThatMoved) {
         EXPECT_EQ(network.download(server.url("/bestand"), file.fileName().toStdString()), row.fetched)
             << row.there.toStdString();
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        if (row.fetched) EXPECT_EQ(file.readAll(), "abcd");
+        if (row.fetched) {
+            EXPECT_EQ(file.readAll(), "abcd");
+        }
     }
 }
 

@@ -9,6 +9,7 @@
 #include "base/Fout.h"
 #include "platform/Paths.h"
 #include "platform/SpecialFolders.h"
+#include "script/ScriptHost.h"
 
 namespace fs = std::filesystem;
 
@@ -72,7 +73,7 @@ void write_deal(const fs::path& folder, const std::string& name, std::initialize
     }
 }
 
-Run::Run(const fs::path& folder) : interpreter_(path_text(folder)) {
+Run::Run(const fs::path& folder) : interpreter_(std::make_unique<script::ScriptHost>(path_text(folder))) {
     interpreter_.platform.special_folders[kProgramFiles] = path_text(folder);
     interpreter_.platform.special_folders[kProgramFilesX86] = "";
 }

@@ -7,11 +7,11 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const auto folder = fuzz::fresh_program_folder();
     std::ofstream(folder / "test.txt", std::ios::binary) << fuzz::text_of(data, size);
-    script::Interpreter interpreter(folder.string());
-    interpreter.run("start");
-    auto& screen = dynamic_cast<frmTavrin03&>(interpreter.programma.schermen.laad("frmTavrin03"));
-    interpreter.programma.windows.dispatch([&] { screen.cmdOphalen.Click(); });
-    fuzz::require(interpreter.programma.gedeeld.foutNummer != static_cast<int>(FoutNummer::Internal),
-                  interpreter.programma.gedeeld.foutNaam);
+    fuzz::Run run(folder);
+    run({"start"});
+    auto& screen = dynamic_cast<frmTavrin03&>(run.programma().schermen.laad("frmTavrin03"));
+    run.programma().windows.dispatch([&] { screen.cmdOphalen.Click(); });
+    fuzz::require(run.programma().gedeeld.foutNummer != static_cast<int>(FoutNummer::Internal),
+                  run.programma().gedeeld.foutNaam);
     return 0;
 }

@@ -22,11 +22,11 @@ bool has_long_number(std::string_view text) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view text = fuzz::text_of(data, size);
     if (has_long_number(text)) return 0;
-    script::Interpreter interpreter("/nowhere");
-    interpreter.platform.caps_lock_on = size % 2 == 1;
-    MSendInput::VerstuurToetsen(interpreter.programma, std::string(text), false);
+    fuzz::Run run("/nowhere");
+    run.platform().caps_lock_on = size % 2 == 1;
+    MSendInput::VerstuurToetsen(run.programma(), std::string(text), false);
     std::map<std::pair<int, int>, int> down;
-    for (const KeyRecord& record : interpreter.platform.keys) {
+    for (const KeyRecord& record : run.platform().keys) {
         const int scan = record.virtual_key == 0 ? record.scan_code : 0;
         down[{record.virtual_key, scan}] += (record.flags & 2U) != 0 ? -1 : 1;
     }

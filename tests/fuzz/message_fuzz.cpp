@@ -7,9 +7,9 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view input = fuzz::text_of(data, size);
     static const auto folder = fuzz::fresh_program_folder();
-    script::Interpreter interpreter(folder.string());
-    interpreter.run("start");
-    Programma& programma = interpreter.programma;
+    fuzz::Run run(folder);
+    run({"start"});
+    Programma& programma = run.programma();
     const int number = numeric_value(input);
     programma.windows.dispatch([&] {
         const std::string text = Bas_Aftavrin::LeesResString(programma, number);
@@ -17,6 +17,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                       "a number has a text, or is reported");
         meld_fout(programma, std::string(input), number, std::string(input));
     });
-    interpreter.run("wait 5000");
+    run({"wait 5000"});
     return 0;
 }

@@ -42,7 +42,7 @@ std::vector<fs::path> entries_below(const fs::path& folder) {
 
 }  // namespace
 
-Monkey::Monkey(fs::path folder, fs::path samples, unsigned seed, MakeInterpreter make)
+Monkey::Monkey(fs::path folder, fs::path samples, unsigned seed, MakeStage make)
     : folder_(std::move(folder)), samples_(std::move(samples)), make_(std::move(make)), random_(seed) {
     restore_samples();
     start();
@@ -59,7 +59,7 @@ void Monkey::restore_samples() {
 
 void Monkey::start() {
     interpreter_.reset();
-    interpreter_ = make_(folder_);
+    interpreter_ = std::make_unique<script::Interpreter>(make_(folder_));
     interpreter_->platform.special_folders[kProgramFiles] = path_text(folder_);
     interpreter_->platform.special_folders[kProgramFilesX86] = "";
     interpreter_->platform.drive_list = {{path_text(folder_ / "stick"), 2, "MONKEY"}};

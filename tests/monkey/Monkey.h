@@ -18,10 +18,10 @@ class Form;
 // change underneath. The same seed does the same again.
 class Monkey {
 public:
-    using MakeInterpreter = std::function<std::unique_ptr<script::Interpreter>(const std::filesystem::path& folder)>;
+    using MakeStage = std::function<std::unique_ptr<script::Stage>(const std::filesystem::path& folder)>;
 
     // `samples` is copied into the folder, at the start and whenever little is left of it.
-    Monkey(std::filesystem::path folder, std::filesystem::path samples, unsigned seed, MakeInterpreter make);
+    Monkey(std::filesystem::path folder, std::filesystem::path samples, unsigned seed, MakeStage make);
 
     // One action. An empty text, or what went wrong: a command that is no command, or a failure that no routine has a
     // number for.
@@ -52,7 +52,7 @@ private:
 
     const std::filesystem::path folder_;
     const std::filesystem::path samples_;
-    MakeInterpreter make_;
+    MakeStage make_;
     std::mt19937 random_;
     std::unique_ptr<script::Interpreter> interpreter_;
     std::vector<std::string> trail_;

@@ -15,7 +15,7 @@ int main(int argc, char** argv) {
     int status = EXIT_SUCCESS;
     {
         Monkey monkey(folder, SAMPLES_DIR, seed,
-                      [](const auto& program) { return std::make_unique<script::Interpreter>(path_text(program)); });
+                      [](const auto& program) { return make_stage(path_text(program)); });
         for (long action = 0; action < actions && status == EXIT_SUCCESS; ++action) {
             const std::string problem = monkey.act();
             if (problem.empty()) continue;

@@ -1,7 +1,7 @@
 // Runs every scenario file: lines that stand at the margin are commands of the script host, indented lines what the
 // command before them must answer. A command without such lines may answer anything but an error.
 // `@samples` puts the sample deals into the program folder, `@companion` an empty companion, `@write PATH|TEXT` a
-// file, `@gone PATH` and `@there PATH` ask about one. $P stands for the program folder.
+// file, `@gone PATH`, `@there PATH` and `@holds PATH|TEXT` ask about one. $P stands for the program folder.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -70,6 +70,9 @@ private:
             program_.write(rest.substr(0, bar), script::unescaped(rest.substr(bar + 1)));
         } else if (word == "@gone") {
             EXPECT_FALSE(program_.exists(rest));
+        } else if (word == "@holds") {
+            const std::size_t bar = rest.find('|');
+            EXPECT_EQ(program_.read(rest.substr(0, bar)), script::unescaped(rest.substr(bar + 1)));
         } else if (word == "@there") {
             EXPECT_TRUE(program_.exists(rest));
         } else {
@@ -84,7 +87,8 @@ private:
             return;
         }
         std::string expected;
-        for (const std::string& line : step.expected) expected += (expected.empty() ? "" : "\n") + line;
+        for (const std::string& line : step.expected)
+            expected += (expected.empty() ? "" : "\n") + line;
         EXPECT_EQ(answer, expected) << command;
     }
 
@@ -92,15 +96,16 @@ private:
     Program program_;
 };
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    testing::InitGoogleTest(&argc, argv);
+bool register_all() {
     for (const auto& entry : fs::directory_iterator(SCENARIO_DIR)) {
         const fs::path file = entry.path();
         if (file.extension() != ".script") continue;
         testing::RegisterTest("Scenario", file.stem().string().c_str(), nullptr, nullptr, file.string().c_str(), 1,
                               [file]() -> Scenario* { return new Scenario(file); });
     }
-    return RUN_ALL_TESTS();
+    return true;
 }
+
+[[maybe_unused]] const bool registered = register_all();
+
+}  // namespace

@@ -23,7 +23,7 @@ fs::path new_temporary_folder() {
 }
 
 Program::Program()
-    : folder_(new_temporary_folder()), interpreter(path_text(folder_)), programma(interpreter.programma) {
+    : folder_(new_temporary_folder()), interpreter(make_stage(path_text(folder_))), programma(interpreter.programma) {
     interpreter.platform.special_folders[kProgramFiles] = "";
     interpreter.platform.special_folders[kProgramFilesX86] = "";
 }

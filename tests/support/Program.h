@@ -1,10 +1,14 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "script/Interpreter.h"
+
+// What carries the programs of a test executable: each links one of the two hosts.
+std::unique_ptr<script::Stage> make_stage(const std::string& program_folder);
 
 // A program of its own in a temporary folder, driven as a user drives it. The folder goes with it.
 class Program {

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "script/Stage.h"
+
+namespace script {
+
+using MakeStage = std::function<std::unique_ptr<Stage>(const std::string& program_folder)>;
+
+// Reads the arguments of the program, carries out the commands of its file or of standard input on a stage, and gives
+// the exit status.
+int run_command_line(int argc, char** argv, const MakeStage& make_stage);
+
+}  // namespace script

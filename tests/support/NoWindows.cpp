@@ -1,0 +1,6 @@
+#include "script/ScriptHost.h"
+#include "support/Program.h"
+
+std::unique_ptr<script::Stage> make_stage(const std::string& program_folder) {
+    return std::make_unique<script::ScriptHost>(program_folder);
+}
