@@ -1,7 +1,9 @@
 #include "library/frmTavrin07.h"
 
+#include <utility>
+
 #include "cards/Kaarten.h"
-#include "platform/Files.h"
+#include "platform/Copies.h"
 #include "platform/Paths.h"
 #include "services/Bas_Aftavrin.h"
 #include "services/Drives.h"
@@ -11,6 +13,7 @@ namespace {
 constexpr forms::Size kInner{10515, 6885};
 constexpr const char* kMerkVanStick = "[usb-drive]";
 constexpr const char* kMapOpStick = "QVT_Spellen";
+constexpr std::size_t kTegelijk = 100;  // deals that are flushed together
 
 std::string klik_van(const std::string& control) { return "frmTavrin07 - " + control + " - Click"; }
 
@@ -180,21 +183,39 @@ void frmTavrin07::knop_Click(const Kant& kant) {
     });
 }
 
+// Some deals at a time are brought to the disk together. A failure stops the run; the deals before it stay, and all
+// that stays is on the disk when the pointer goes back to normal.
 void frmTavrin07::kopieer_selectie(const Kant& kant, const Kant& overkant) {
     const std::string doel = map_van(overkant);
     std::string pad = doel;
     Bas_Aftavrin::MaakPad(pad);
-    for (int i = 0; i < kant.lijst.ListCount(); ++i) {
-        if (!kant.lijst.Selected(i)) continue;
-        kopieer_spel(kant.lijst.List(i), kant, overkant);
-        kant.lijst.SetSelected(i, false);
+    Copies kopieen;
+    std::vector<int> geschreven;
+    const auto maak_af = [&] {
+        kopieen.finish();
+        for (const int regel : std::exchange(geschreven, {}))
+            kant.lijst.SetSelected(regel, false);
         Refresh();
+    };
+    try {
+        for (int i = 0; i < kant.lijst.ListCount(); ++i) {
+            if (!kant.lijst.Selected(i)) continue;
+            kopieer_spel(kant.lijst.List(i), kant, overkant, kopieen);
+            geschreven.push_back(i);
+            if (geschreven.size() == kTegelijk) maak_af();
+        }
+    } catch (const Fout&) {
+        maak_af();
+        kopieen.flush();
+        throw;
     }
+    maak_af();
+    kopieen.flush();
 }
 
 // Nothing is written through a link, and nothing read through one on the stick: a stranger's stick leads nowhere. The
 // deals of this installation may lie where the user wants them.
-void frmTavrin07::kopieer_spel(const std::string& spel, const Kant& kant, const Kant& overkant) {
+void frmTavrin07::kopieer_spel(const std::string& spel, const Kant& kant, const Kant& overkant, Copies& kopieen) {
     const bool inlezen = &kant == &importeer;
     const std::string van = join_path(map_van(kant), spel);
     const std::string naar = join_path(map_van(overkant), spel);
@@ -206,12 +227,7 @@ void frmTavrin07::kopieer_spel(const std::string& spel, const Kant& kant, const 
     std::vector<std::string> bestanden;
     for (int i = 0; i < filFiles.ListCount(); ++i)
         bestanden.push_back(filFiles.List(i));
-    if (inlezen) refuse_links_named(van, bestanden);
-    refuse_links_named(naar, bestanden);
-    remove_leftovers(naar);
-    for (const std::string& bestand : bestanden) {
-        replace_by_copy(join_path(van, bestand), join_path(naar, bestand), inlezen ? Links::Refuse : Links::Follow);
-    }
+    kopieen.add_folder(van, bestanden, naar, inlezen ? Links::Refuse : Links::Follow);
 }
 
 void frmTavrin07::Form_KeyUp(int key_code) {

@@ -9,6 +9,8 @@
 #include "forms/ListBox.h"
 #include "services/Scherm.h"
 
+class Copies;
+
 // Copies deals to a USB stick and from it. The left half lists the deals of this program, the right half those in the
 // folder QVT_Spellen of the stick; a deal is copied as a folder with all its files.
 class frmTavrin07 final : public Scherm {
@@ -76,7 +78,7 @@ private:
     void chkSorteer_Click(const Kant& kant);
     void knop_Click(const Kant& kant);
     void kopieer_selectie(const Kant& kant, const Kant& overkant);
-    void kopieer_spel(const std::string& spel, const Kant& kant, const Kant& overkant);
+    void kopieer_spel(const std::string& spel, const Kant& kant, const Kant& overkant, Copies& kopieen);
     void cmdCheckVoorUSB_Click();
 
     std::string usbDrive;  // the stick's line of lstDriveNaam; empty when there is none

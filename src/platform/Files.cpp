@@ -13,6 +13,7 @@
 #include "base/Fout.h"
 #include "base/Text.h"
 #include "platform/CodePage.h"
+#include "platform/FileBeside.h"
 #include "platform/OpenFile.h"
 #include "platform/Paths.h"
 #include "platform/SystemCalls.h"
@@ -22,7 +23,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::size_t kPart = 65536;  // bytes that are read at a time
-constexpr std::string_view kBeside = ".zandolin-nieuw-";
 
 [[noreturn]] void fail(int error, const fs::path& path) {
     throw Fout::from({error, std::generic_category()}, path_text(path.filename()));
@@ -66,12 +66,6 @@ fs::path plain_file(std::string_view path) {
                path_text(found.filename()));
 }
 
-// A file to be written: itself if it is there, and what it is then.
-struct Target {
-    fs::path path;
-    std::optional<struct stat> about;
-};
-
 Target writable_target(std::string_view path) {
     Target target{find_case_blind(path), std::nullopt};
     target.about = status_of(target.path);
@@ -80,44 +74,6 @@ Target writable_target(std::string_view path) {
     }
     return target;
 }
-
-// A new file beside its target; `finish` puts it in the target's place, without that it goes again. A target that is
-// reached by a link stays where it is.
-class FileBeside {
-public:
-    explicit FileBeside(Target target) : target_(std::move(target)) {
-        if (target_.about) {
-            OpenFile(target_.path, O_WRONLY);  // one that may not be written is not replaced either
-            if (is_link(target_.path)) target_.path = fs::canonical(target_.path);
-        }
-        for (int number = 0; path_.empty() || link_status_of(path_); ++number) {
-            path_ = target_.path.parent_path() /
-                    (std::string(kBeside) + std::to_string(getpid()) + "-" + std::to_string(number));
-        }
-        file_.emplace(path_, O_WRONLY | O_CREAT | O_EXCL, target_.about ? mode() & 0777U : 0666U);
-    }
-    ~FileBeside() {
-        if (!path_.empty()) system_calls::remove(path_.c_str());
-    }
-    FileBeside(const FileBeside&) = delete;
-    FileBeside& operator=(const FileBeside&) = delete;
-
-    void write(std::string_view bytes) { file_->write(bytes); }
-    void finish() {
-        if (target_.about) file_->set_mode(mode());
-        file_->flush_to_disk();
-        file_->close();
-        if (system_calls::rename(path_.c_str(), target_.path.c_str()) != 0) fail(errno, target_.path);
-        path_.clear();
-    }
-
-private:
-    mode_t mode() const { return target_.about->st_mode & 07777U; }
-
-    Target target_;
-    fs::path path_;
-    std::optional<OpenFile> file_;
-};
 
 void write_straight(std::string_view path, std::string_view bytes, int flags) {
     OpenFile file(writable_target(path).path, O_WRONLY | O_CREAT | O_NOFOLLOW | flags);
@@ -271,24 +227,14 @@ void copy_file(std::string_view from, std::string_view to) { write_file(to, read
 void replace_file(std::string_view path, std::string_view bytes) {
     FileBeside beside(writable_target(path));
     beside.write(bytes);
-    beside.finish();
-}
-
-void replace_by_copy(std::string_view from, std::string_view to, Links links_in_from) {
-    OpenFile source(plain_file(from), O_RDONLY | (links_in_from == Links::Refuse ? O_NOFOLLOW : 0));
-    Target target = writable_target(to);
-    const struct stat about = source.status();
-    if (target.about && target.about->st_dev == about.st_dev && target.about->st_ino == about.st_ino) return;
-    FileBeside beside(std::move(target));
-    std::string part(kPart, '\0');
-    while (const std::size_t got = source.read(part.data(), part.size()))
-        beside.write(std::string_view(part).substr(0, got));
-    beside.finish();
+    beside.flush_to_disk();
+    beside.close();
+    beside.take_place();
 }
 
 void remove_leftovers(std::string_view folder, FileTime older_than) {
     for_each_entry(folder, [&](const fs::path& path, const dirent&, std::string_view name) {
-        if (!name.starts_with(kBeside)) return;
+        if (!name.starts_with(kBesideName)) return;
         const fs::path left = path / name;
         const auto about = link_status_of(left);
         if (!about || !S_ISREG(about->st_mode)) return;
@@ -333,12 +279,6 @@ void refuse_links(std::string_view root, std::string_view path) {
         if (is_link(found)) throw Fout(FoutNummer::PathAccess, path_text(found.filename()));
         found = found.parent_path();
     }
-}
-
-void refuse_links_named(std::string_view folder, const std::vector<std::string>& names) {
-    refuse_links_that(folder, [&](const std::string& link) {
-        return std::ranges::any_of(names, [&](const std::string& name) { return equal_ignoring_case(name, link); });
-    });
 }
 
 void refuse_links_in(std::string_view folder, std::string_view pattern) {

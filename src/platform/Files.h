@@ -51,11 +51,9 @@ void write_file(std::string_view path, std::string_view bytes);
 // The same with the bytes of another file, which are read before anything is emptied.
 void copy_file(std::string_view from, std::string_view to);
 
-// Two that write beside the file, flush to the disk, and rename over it with its mode: whatever happens, the old file
-// or the new one is there whole. A file that may not be written is refused (70). The file beside has a hidden name of
-// its own.
+// Writes beside the file, flushes to the disk, and renames over it with its mode: whatever happens, the old file or the
+// new one is there whole. A file that may not be written is refused (70). The file beside has a hidden name of its own.
 void replace_file(std::string_view path, std::string_view bytes);
-void replace_by_copy(std::string_view from, std::string_view to, Links links_in_from);
 // Removes files beside that were left behind in the folder, if they are older than that.
 using FileTime = std::chrono::system_clock::time_point;
 void remove_leftovers(std::string_view folder, FileTime older_than = FileTime::max());
@@ -70,9 +68,7 @@ void make_folders(std::string_view path);
 // Failure 75 where what stands below the folder `root` on the way to `path`, or in its place, is a link: what is
 // written, deleted or taken from a stranger there must not lie elsewhere. The path begins with the root's.
 void refuse_links(std::string_view root, std::string_view path);
-// The same where a link in the folder has one of the names, in whatever case, or any name of a pattern, hidden ones
-// too. A folder that is not there has none.
-void refuse_links_named(std::string_view folder, const std::vector<std::string>& names);
+// The same where a link in the folder has any name of a pattern, a hidden one too. A folder that is not there has none.
 void refuse_links_in(std::string_view folder, std::string_view pattern);
 
 // Names of the subfolders, and of the plain files that are not hidden; in ascending order without regard

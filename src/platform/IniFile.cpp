@@ -21,14 +21,16 @@ bool is_setting(const std::string& line, std::string_view key) {
 }
 
 std::string unquoted(std::string value) {
-    const bool quoted = value.size() >= 2 && (value.front() == '"' || value.front() == '\'') && value.front() == value.back();
+    const bool quoted =
+        value.size() >= 2 && (value.front() == '"' || value.front() == '\'') && value.front() == value.back();
     return quoted ? value.substr(1, value.size() - 2) : value;
 }
 
 std::vector<std::string> lines_of(std::string_view file) {
     std::vector<std::string> lines;
     if (file_length(file) <= 0) return lines;
-    for (LineReader reader(file); !reader.at_end();) lines.push_back(reader.line());
+    for (LineReader reader(file); !reader.at_end();)
+        lines.push_back(reader.line());
     return lines;
 }
 
@@ -60,7 +62,8 @@ void write_setting(std::string_view file, std::string_view section, std::string_
     const std::string setting = std::string(key) + "=" + std::string(value);
 
     std::size_t at = 0;
-    while (at < lines.size() && !begins_section(lines[at], section)) ++at;
+    while (at < lines.size() && !begins_section(lines[at], section))
+        ++at;
     if (at == lines.size()) {
         lines.push_back("[" + std::string(section) + "]");
     }
@@ -75,6 +78,7 @@ void write_setting(std::string_view file, std::string_view section, std::string_
     }
 
     std::string bytes;
-    for (const std::string& line : lines) bytes.append(line).append("\r\n");
+    for (const std::string& line : lines)
+        bytes.append(line).append("\r\n");
     replace_file(file, bytes);
 }

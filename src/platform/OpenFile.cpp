@@ -57,6 +57,10 @@ void OpenFile::flush_to_disk() {
     if (system_calls::sync(file_, path_.c_str()) != 0 && !unsupported(errno)) fail();
 }
 
+void OpenFile::flush_device() {
+    if (system_calls::sync_device(file_, path_.c_str()) != 0 && !unsupported(errno)) fail();
+}
+
 void OpenFile::close() {
     if (system_calls::close(std::exchange(file_, kClosed), path_.c_str()) != 0) fail();
 }

@@ -22,6 +22,7 @@ public:
     // Where the file system keeps no modes, nothing happens.
     void set_mode(mode_t mode);
     void flush_to_disk();
+    void flush_device();  // all that was written to its file system
     void close();
     struct stat status() const;
 

@@ -23,9 +23,9 @@ enum class Answer { Ok = 1, Yes = 6, No = 7 };
 
 // Style of a message box: its buttons and its icon.
 namespace box_style {
-inline constexpr int kQuestion = 36;             // Yes and No, question icon
-inline constexpr int kInformation = 64;          // OK, information icon
-inline constexpr int kInformationYesNo = 68;     // Yes and No, information icon
+inline constexpr int kQuestion = 36;          // Yes and No, question icon
+inline constexpr int kInformation = 64;       // OK, information icon
+inline constexpr int kInformationYesNo = 68;  // Yes and No, information icon
 }  // namespace box_style
 
 // What is asked of the operating system. Texts are Windows-1252, paths without a separator at their end.

@@ -42,6 +42,7 @@ ssize_t write(int file, const char* path, const char* bytes, std::size_t count) 
 int truncate(int file, const char* path) { return fails(Call::Truncate, path) ? -1 : ::ftruncate(file, 0); }
 int set_mode(int file, const char* path, mode_t mode) { return fails(Call::Mode, path) ? -1 : ::fchmod(file, mode); }
 int sync(int file, const char* path) { return fails(Call::Sync, path) ? -1 : ::fsync(file); }
+int sync_device(int file, const char* path) { return fails(Call::Sync, path) ? -1 : ::syncfs(file); }
 // A file is closed in any case, so that a failure that a test asks for does not leave it open.
 int close(int file, const char* path) {
     const bool failed = fails(Call::Close, path);

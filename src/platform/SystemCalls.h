@@ -37,6 +37,7 @@ ssize_t write(int file, const char* path, const char* bytes, std::size_t count);
 int truncate(int file, const char* path);
 int set_mode(int file, const char* path, mode_t mode);
 int sync(int file, const char* path);
+int sync_device(int file, const char* path);  // all of its file system
 int close(int file, const char* path);
 int rename(const char* from, const char* to);
 int remove(const char* path);

@@ -57,7 +57,10 @@ Refusal ScriptHost::click_cell(forms::FlexGrid& grid, int row, int col) {
 
 Refusal ScriptHost::select(forms::ListBox& list, int line) {
     if (within_reach(list)) list.List(line);
-    return pressed(list, [&] { return forms::user::select(list, line); });
+    return pressed(list, [&] {
+        // A line that went when its window came in front is clicked by nobody.
+        return line < list.ListCount() ? forms::user::select(list, line) : Refusal::None;
+    });
 }
 
 Refusal ScriptHost::type(forms::TextBox& box, const std::string& text) {

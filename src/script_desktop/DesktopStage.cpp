@@ -103,8 +103,9 @@ Refusal DesktopStage::click_cell(forms::FlexGrid& grid, int row, int col) {
 }
 
 Refusal DesktopStage::select(forms::ListBox& list, int line) {
+    if (widget(list) && widget(list)->isVisible()) list.List(line);
     return act_on(list, [&](QWidget& shown) {
-        list.List(line);
+        if (line >= list.ListCount()) return;  // it went when its window came in front
         auto& view = dynamic_cast<QListView&>(shown);
         const QModelIndex index = view.model()->index(line, 0);
         view.scrollTo(index);

@@ -1,6 +1,8 @@
 #include "monkey/Monkey.h"
 
 #include <algorithm>
+#include <array>
+#include <cerrno>
 #include <fstream>
 
 #include "base/Fout.h"
@@ -14,6 +16,7 @@
 #include "forms/VScrollBar.h"
 #include "platform/Paths.h"
 #include "platform/SpecialFolders.h"
+#include "platform/SystemCalls.h"
 
 namespace fs = std::filesystem;
 
@@ -75,11 +78,22 @@ std::string Monkey::act() {
     const std::string command = next_command();
     trail_.push_back(command);
     if (trail_.size() > kTrailLength) trail_.erase(trail_.begin());
-    return problem_of(command, interpreter_->run(command));
+    return problem_of(command, run(command));
+}
+
+// Now and then one of the calls on files that the command makes fails.
+std::string Monkey::run(const std::string& command) {
+    if (!one_in(20)) return interpreter_->run(command);
+    static constexpr std::array kErrors{EIO, ENOSPC, EACCES, ENOENT, EMFILE};
+    const int error = one_of(kErrors);
+    int left = below(40);
+    const system_calls::HookScope failing([&](system_calls::Call, const char*) { return left-- == 0 ? error : 0; });
+    return interpreter_->run(command);
 }
 
 std::string Monkey::problem_of(const std::string& command, const std::string& answer) {
-    if (answer.starts_with("error")) return command + ": " + answer;
+    // What lies behind another control is out of a mouse's reach.
+    if (answer.starts_with("error") && !answer.starts_with("error: covered")) return command + ": " + answer;
     const Gedeeld& gedeeld = interpreter_->programma.gedeeld;
     if (gedeeld.foutNummer != 0 && gedeeld.foutNummer != last_report_) ++reports_;
     last_report_ = gedeeld.foutNummer;

@@ -15,7 +15,7 @@ class Form;
 }  // namespace forms
 
 // Does at random whatever a user can do, in the language of the script host, while the files below the program folder
-// change underneath. The same seed does the same again.
+// change underneath and calls on them fail. The same seed does the same again.
 class Monkey {
 public:
     using MakeStage = std::function<std::unique_ptr<script::Stage>(const std::filesystem::path& folder)>;
@@ -41,6 +41,7 @@ private:
     std::string command_on(const forms::Form& form);
     std::string command_for(const forms::Control& control);
     std::string some_text();
+    std::string run(const std::string& command);
     std::string problem_of(const std::string& command, const std::string& answer);
 
     bool one_in(unsigned count) { return random_() % count == 0; }

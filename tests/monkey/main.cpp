@@ -1,5 +1,3 @@
-// zandolin_monkey [ACTIONS [SEED]]: random actions on the script host; exit status 1 at the first fault, with the
-// commands that led to it.
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -8,14 +6,16 @@
 #include "platform/Paths.h"
 #include "support/Program.h"
 
+// zandolin_monkey [ACTIONS [SEED]]: random actions on the host that the program is linked with; exit status 1 at the
+// first fault, with the commands that led to it.
 int main(int argc, char** argv) {
+    const HostOfTests host(argc, argv);
     const long actions = argc > 1 ? std::strtol(argv[1], nullptr, 10) : 20000;
     const auto seed = static_cast<unsigned>(argc > 2 ? std::strtoul(argv[2], nullptr, 10) : 1);
     const std::filesystem::path folder = new_temporary_folder();
     int status = EXIT_SUCCESS;
     {
-        Monkey monkey(folder, SAMPLES_DIR, seed,
-                      [](const auto& program) { return make_stage(path_text(program)); });
+        Monkey monkey(folder, SAMPLES_DIR, seed, [](const auto& program) { return make_stage(path_text(program)); });
         for (long action = 0; action < actions && status == EXIT_SUCCESS; ++action) {
             const std::string problem = monkey.act();
             if (problem.empty()) continue;

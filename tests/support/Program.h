@@ -10,6 +10,18 @@
 // What carries the programs of a test executable: each links one of the two hosts.
 std::unique_ptr<script::Stage> make_stage(const std::string& program_folder);
 
+// What that host needs to be there as long as its programs.
+class HostOfTests {
+public:
+    HostOfTests(int& argc, char** argv);
+    ~HostOfTests();
+    HostOfTests(const HostOfTests&) = delete;
+
+private:
+    struct State;
+    std::unique_ptr<State> state_;
+};
+
 // A program of its own in a temporary folder, driven as a user drives it. The folder goes with it.
 class Program {
 public:
