@@ -27,7 +27,8 @@ public:
 
 private:
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (watched == window_ && (event->type() == QEvent::UpdateRequest || event->type() == QEvent::Paint)) painted = true;
+        if (watched == window_ && (event->type() == QEvent::UpdateRequest || event->type() == QEvent::Paint))
+            painted = true;
         return false;
     }
     QObject* window_;
@@ -64,10 +65,7 @@ fs::path make_program_folder(const std::string& samples, const FolderContents& c
     return folder;
 }
 
-Stage::Stage(const fs::path& folder)
-    : folder_(folder),
-      platform(host, path_text(folder_)),
-      programma(platform, host) {
+Stage::Stage(const fs::path& folder) : folder_(folder), platform(host, path_text(folder_)), programma(platform, host) {
     host.attach(programma.windows);
     start(programma);
     paint();
@@ -80,7 +78,8 @@ Stage::~Stage() {
 }
 
 void Stage::let_cards_be_prepared() {
-    while (preparer.isActive()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+    while (preparer.isActive())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
 }
 
 void Stage::paint() {
