@@ -3,6 +3,7 @@
 #include "base/Zolang.h"
 #include "cards/Kaart.h"
 #include "cards/Kaarten.h"
+#include "cards/PerPlaats.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "services/Bas_Aftavrin.h"
@@ -18,17 +19,17 @@ constexpr Colour kBlauw{0xFF0000};
 constexpr Colour kVoorbeeldBlauw = Colour::rgb(0, 0, 192);
 constexpr double kOnderNummer = 240;  // from a number to the picture below it
 
-constexpr forms::Rect kKompas[] = {
+constexpr kaart::PerPlaats<forms::Rect> kKompas{
     {2040, 720, 1560, 225}, {3990, 1830, 1560, 225}, {2040, 3570, 1560, 225}, {150, 1830, 1560, 225}};
 
-forms::Rect kaartnummer_plek(int plaats) { return kKompas[plaats - 1]; }
-
 forms::Rect kaart_plek(int plaats) {
-    const forms::Rect nummer = kaartnummer_plek(plaats);
+    const forms::Rect nummer = kKompas(plaats);
     return {nummer.left, nummer.top + kOnderNummer, 1560, 2340};
 }
 
-forms::Rect nummer_plek(int index) { return {255.0 + 570 * (index % kPerRij), 270.0 + 840 * (index / kPerRij), 450, 225}; }
+forms::Rect nummer_plek(int index) {
+    return {255.0 + 570 * (index % kPerRij), 270.0 + 840 * (index / kPerRij), 450, 225};
+}
 
 forms::Rect merk_plek(int index) {
     const forms::Rect nummer = nummer_plek(index);
@@ -39,7 +40,7 @@ forms::Rect merk_plek(int index) {
 
 frmTavrin05::frmTavrin05(Programma& programma)
     : Scherm(programma, "frmTavrin05", kInner),
-      lblKaartNummer(fraSlag, "lblKaartNummer", 1, 4, kaartnummer_plek),
+      lblKaartNummer(fraSlag, "lblKaartNummer", 1, 4, kKompas),
       picKaart(fraSlag, "picKaart", 1, 4, kaart_plek),
       lblYesNo(fraKaartMetTekst, "lblYesNo", 0, kKaarten - 1, nummer_plek),
       picYesNo(fraKaartMetTekst, "picYesNo", 0, kKaarten - 1, merk_plek) {
@@ -54,9 +55,12 @@ frmTavrin05::frmTavrin05(Programma& programma)
     cmdSluiten.Click = [this] { cmdSluiten_Click(); };
     cmdToonSpel.Click = [this] { cmdToonSpel_Click(); };
     cmdTerug.Click = [this] { Foutpad("frmTavrin05 - cmdTerug - Click", [&] { Form_QueryUnload(); }); };
-    for (const auto& [i, label] : lblKaartNummer) label->Click = [this, i = i] { lblKaartNummer_Click(i); };
-    for (const auto& [i, kaart] : picKaart) kaart->Click = [this, i = i] { picKaart_Click(i); };
-    for (const auto& [i, merk] : picYesNo) merk->Click = [this, i = i] { picYesNo_Click(i); };
+    for (const auto& [i, label] : lblKaartNummer)
+        label->Click = [this, i = i] { lblKaartNummer_Click(i); };
+    for (const auto& [i, kaart] : picKaart)
+        kaart->Click = [this, i = i] { picKaart_Click(i); };
+    for (const auto& [i, merk] : picYesNo)
+        merk->Click = [this, i = i] { picYesNo_Click(i); };
     for (const auto& [i, label] : lblYesNo) {
         label->Click = [this, i = i] { Foutpad("frmTavrin05 - lblYesNo - Click", [&] { picYesNo_Click(i); }); };
     }
@@ -80,7 +84,8 @@ void frmTavrin05::stel_uiterlijk_in() {
     picJa.Picture = {0, "ja"};
     picNee.Picture = {0, "nee"};
     picBezig.Picture = {0, "bezig"};
-    for (forms::PictureBox* merk : {&picJa, &picNee, &picBezig}) merk->Visible = false;
+    for (forms::PictureBox* merk : {&picJa, &picNee, &picBezig})
+        merk->Visible = false;
     for (forms::TextBox* doos : {&txtInformatie, &txtVoorbeeld, &txtKnipTekst}) {
         doos->MultiLine = true;
         doos->FontSize = 12;
@@ -91,7 +96,8 @@ void frmTavrin05::stel_uiterlijk_in() {
     txtVoorbeeld.ForeColor = forms::kWindowColour;
     txtKnipTekst.Visible = false;
     frmVoorbeeld.Visible = false;
-    for (forms::CommandButton* knop : {&cmdWissen, &cmdVoorBeeld, &cmdToonSpel, &cmdGebruiken}) knop->Enabled = false;
+    for (forms::CommandButton* knop : {&cmdWissen, &cmdVoorBeeld, &cmdToonSpel, &cmdGebruiken})
+        knop->Enabled = false;
     fraSlag.Enabled = false;
     fraKaartMetTekst.Enabled = false;
 }
@@ -116,7 +122,8 @@ void frmTavrin05::Form_Load() {
         // As wide as the preview, so that a text is cut where the preview would break it.
         txtKnipTekst.Move(2490, txtVoorbeeld.Top, txtVoorbeeld.Width, txtVoorbeeld.Height);
         lees_spellen();
-        for (int slag = kSlagen; slag >= 1; --slag) lstSlag.AddItem(std::to_string(slag));
+        for (int slag = kSlagen; slag >= 1; --slag)
+            lstSlag.AddItem(std::to_string(slag));
         zet_balk(kSlagen);
         zet_alles_dicht();
     });
@@ -128,7 +135,7 @@ void frmTavrin05::lees_spellen() {
 
 // Card backs, numbers without a card, and no marker that tells of a text.
 void frmTavrin05::zet_alles_dicht() {
-    for (int plaats = 1; plaats <= 4; ++plaats) {
+    for (const int plaats : kaart::kPlaatsen) {
         picKaart(plaats).Picture = Bas_Aftavrin::LaadPlaatje(gedeeld.kaartRugId);
         picKaart(plaats).AccessibleName = "";
         lblKaartNummer(plaats).Caption = LeesResString(10060);
@@ -185,7 +192,8 @@ void frmTavrin05::lstSpellen_Click() {
         if (ontbreekt(stam + " aftavrin.txt", naam + " aftavrin.txt")) return;
         lees_speelrijen(stam + " aftavrin.txt");
         lstInformatie.Clear();
-        for (int nummer = 1; nummer <= kKaarten; ++nummer) lstInformatie.AddItem(std::to_string(nummer) + "|");
+        for (int nummer = 1; nummer <= kKaarten; ++nummer)
+            lstInformatie.AddItem(std::to_string(nummer) + "|");
         zet_alles_dicht();
         lees_teksten(stam + " informatie.txt");
         gedeeld.spelMap = map;
@@ -209,7 +217,8 @@ bool frmTavrin05::ontbreekt(const std::string& bestand, const std::string& genoe
 
 void frmTavrin05::lees_speelrijen(const std::string& pad) {
     lstAfTavrin.Clear();
-    for (LineReader regels(pad); !regels.at_end();) lstAfTavrin.AddItem(regels.line());
+    for (LineReader regels(pad); !regels.at_end();)
+        lstAfTavrin.AddItem(regels.line());
 }
 
 void frmTavrin05::lees_teksten(const std::string& pad) {
@@ -253,7 +262,7 @@ void frmTavrin05::toon_slag(const std::string& rij) {
     const int uitkomer = numeric_value(left(gedeeld.delen[0], 1));
     lblUit.Caption = LeesResString(10059) + ":" + LeesResString(kaart::bericht_van_plaats(uitkomer));
     lblToonSlag.Caption = rij;
-    for (int plaats = 1; plaats <= 4; ++plaats) {
+    for (const int plaats : kaart::kPlaatsen) {
         lblKaartNummer(plaats).FontBold = false;
         lblKaartNummer(plaats).ForeColor = kZwart;
     }
@@ -263,7 +272,7 @@ void frmTavrin05::toon_slag(const std::string& rij) {
         lblKaartNummer(plaats).Caption = LeesResString(10060) + ": " + std::to_string(EersteNummer + i);
     }
     // The pictures stay at their seats, only the numbers follow the order of play.
-    for (int plaats = 1; plaats <= 4; ++plaats) {
+    for (const int plaats : kaart::kPlaatsen) {
         const int code = numeric_value(gedeeld.delen[plaats]);
         picKaart(plaats).Picture = Bas_Aftavrin::LaadPlaatje(code);
         picKaart(plaats).AccessibleName = kaart::titel(code);

@@ -22,13 +22,11 @@ constexpr Colour kTafelgroen = Colour::rgb(24, 96, 60);
 }  // namespace
 
 frmTavrin06::frmTavrin06(Programma& programma)
-    : Scherm(programma, "frmTavrin06", kInner),
-      HandLijsten(static_cast<forms::Form&>(*this)),
-      picKaart{forms::ControlArray<forms::PictureBox>(picBack, "picKaartNoord", {{0, {0, 0, kKaartBreedte, kKaartHoogte}}}),
-               forms::ControlArray<forms::PictureBox>(picBack, "picKaartOost",
-                                                      {{0, {kOostOntwerp, 0, kKaartBreedte, kKaartHoogte}}}),
-               forms::ControlArray<forms::PictureBox>(picBack, "picKaartZuid", {{0, {0, 0, kKaartBreedte, kKaartHoogte}}}),
-               forms::ControlArray<forms::PictureBox>(picBack, "picKaartWest", {{0, {0, 0, kKaartBreedte, kKaartHoogte}}})} {
+    : Scherm(programma, "frmTavrin06", kInner), picKaart([this](int plaats) {
+          const double links = plaats == kaart::kOost ? kOostOntwerp : 0;
+          return forms::ControlArray<forms::PictureBox>(picBack, std::string("picKaart") + kaart::kPlaatsNaam(plaats),
+                                                        {{0, {links, 0, kKaartBreedte, kKaartHoogte}}});
+      }) {
     picBack.BackColor = kTafelgroen;
     picPlay.Visible = false;
     fraSlagen.Visible = false;
@@ -50,15 +48,16 @@ void frmTavrin06::Form_Load() {
         picBack.Move(static_cast<int>(Width - picBack.Width) / 2, static_cast<int>(Height - picBack.Height) / 2);
         cmdTerug.Caption = "&" + LeesResString(10018);
         for (int i = 1; i <= kaart::kKaartenPerKleur; ++i) {
-            for (auto& hand : picKaart) hand.Load(i).ZOrder();
+            for (auto& hand : picKaart)
+                hand.Load(i).ZOrder();
         }
-        vul_kaarten();
-        Kaarten::LeesKartenBestandIn(*this, *this);
-        Kaarten::VerdeelDeKaarten(*this, *this);
-        leg_rij(1, kNoordBoven);
-        leg_kleuren(2, picKaart[1](0).Width + picKaart[1](0).Left, true);
-        leg_rij(3, kZuidBoven);
-        leg_kleuren(4, kWestLinks, false);
+        lijsten.vul_kaarten();
+        Kaarten::LeesKartenBestandIn(*this, lijsten);
+        Kaarten::VerdeelDeKaarten(*this, lijsten);
+        leg_rij(kaart::kNoord, kNoordBoven);
+        leg_kleuren(kaart::kOost, picKaart(kaart::kOost)(0).right(), true);
+        leg_rij(kaart::kZuid, kZuidBoven);
+        leg_kleuren(kaart::kWest, kWestLinks, false);
         cmdTerug.ZOrder();
         centreer();
         Bas_Aftavrin::BewaarMaten(programma, *this);
@@ -78,9 +77,9 @@ void frmTavrin06::leg_kaart(forms::PictureBox& plek, const std::string& code, do
 void frmTavrin06::leg_rij(int plaats, double boven) {
     int n = 0;
     for (const kaart::Kleur kleur : kaart::kToonVolgorde) {
-        const forms::ListBox& lijst = suit(kleur, plaats);
+        const forms::ListBox& lijst = lijsten.lstKleur(kleur)(plaats);
         for (int i = 0; i < lijst.ListCount(); ++i, ++n) {
-            leg_kaart(picKaart[static_cast<std::size_t>(plaats - 1)](n + 1), lijst.List(i), kStartLinks + n * kStap, boven);
+            leg_kaart(picKaart(plaats)(n + 1), lijst.List(i), kStartLinks + n * kStap, boven);
         }
     }
 }
@@ -90,11 +89,12 @@ void frmTavrin06::leg_kleuren(int plaats, double links, bool binnen_kader) {
     double boven = kKleurenBoven;
     int element = 0;
     for (const kaart::Kleur kleur : kaart::kToonVolgorde) {
-        const forms::ListBox& lijst = suit(kleur, plaats);
+        const forms::ListBox& lijst = lijsten.lstKleur(kleur)(plaats);
         const double breedte = lijst.ListCount() * gedeeld.kaartStap + kKaartBreedte;
-        while (binnen_kader && breedte + links > fraSlagen.Left - 128) links -= kStap;
+        while (binnen_kader && breedte + links > fraSlagen.Left - 128)
+            links -= kStap;
         for (int i = 0; i < lijst.ListCount(); ++i) {
-            leg_kaart(picKaart[static_cast<std::size_t>(plaats - 1)](++element), lijst.List(i), links + i * kStap, boven);
+            leg_kaart(picKaart(plaats)(++element), lijst.List(i), links + i * kStap, boven);
         }
         boven += kStap;
     }

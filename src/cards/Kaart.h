@@ -13,6 +13,12 @@
 // more, and is at the same time the number of the card's large picture.
 namespace kaart {
 
+inline constexpr int kNoord = 1;
+inline constexpr int kOost = 2;
+inline constexpr int kZuid = 3;
+inline constexpr int kWest = 4;
+inline constexpr std::array kPlaatsen{kNoord, kOost, kZuid, kWest};
+
 inline constexpr int kCodeBasis = 2200;
 inline constexpr int kKaartRug = 2253;
 inline constexpr int kKaartenPerKleur = 13;
@@ -26,7 +32,7 @@ inline constexpr std::array kToonVolgorde{Kleur::Schoppen, Kleur::Harten, Kleur:
 struct KleurGegevens {
     int letter;         // message of the suit letter
     int woord;          // message of the suit word
-    const char* naam;   // the word in a contract, lower case
+    const char* naam;   // the word in a contract, a title and the names of controls
     int plaatje;        // picture of the suit symbol
     Colour tekstkleur;  // black or pure red
 };

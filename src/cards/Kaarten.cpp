@@ -1,5 +1,6 @@
 #include "cards/Kaarten.h"
 
+#include "cards/PerPlaats.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 
@@ -51,7 +52,7 @@ void LeesKartenBestandIn(Scherm& scherm, HandLijsten& lijsten) {
 
 void VerdeelDeKaarten(Scherm& scherm, HandLijsten& lijsten) {
     scherm.Foutpad("Kaarten - General - VerdeelDeKaarten", [&] {
-        for (int plaats = 1; plaats <= 4; ++plaats)
+        for (const int plaats : kaart::kPlaatsen)
             lijsten.lstHand(plaats).Clear();
         Pieces& delen = scherm.gedeeld.delen;
         for (int rij = 0; rij < lijsten.lstAfTavrin.ListCount(); ++rij) {
@@ -59,11 +60,11 @@ void VerdeelDeKaarten(Scherm& scherm, HandLijsten& lijsten) {
             for (int i = 1; i <= delen.last(); ++i)
                 lijsten.lstHand(i).AddItem(delen[i]);
         }
-        for (int plaats = 1; plaats <= 4; ++plaats) {
+        for (const int plaats : kaart::kPlaatsen) {
             forms::ListBox& hand = lijsten.lstHand(plaats);
             for (int i = 0; i < hand.ListCount(); ++i) {
                 const int nummer = kaart::nummer_van(hand.List(i));
-                lijsten.suit(kaart::kleur_van(nummer), plaats).AddItem(hand.List(i));
+                lijsten.lstKleur(kaart::kleur_van(nummer))(plaats).AddItem(hand.List(i));
             }
         }
     });

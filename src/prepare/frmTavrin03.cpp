@@ -9,14 +9,10 @@
 namespace {
 
 constexpr forms::Size kInner{16950, 9585};
-constexpr BiedingPaneel::Kolommen kBiedingKolommen{570, 870};
 
 }  // namespace
 
-frmTavrin03::frmTavrin03(Programma& programma)
-    : Scherm(programma, "frmTavrin03", kInner),
-      KaartLabels(static_cast<forms::Form&>(*this)),
-      BiedingPaneel(static_cast<forms::Form&>(*this), {12780, 150, 4035, 3105}, kBiedingKolommen) {
+frmTavrin03::frmTavrin03(Programma& programma) : Scherm(programma, "frmTavrin03", kInner) {
     stel_uiterlijk_in();
     chkSorteerRVLX.Click = [this] { chkSorteerRVLX_Click(); };
     chkSorteerTavrin.Click = [this] { chkSorteerTavrin_Click(); };
@@ -27,16 +23,16 @@ frmTavrin03::frmTavrin03(Programma& programma)
     msfgTavrin.Click = [this] { msfgTavrin_Click(); };
     cmdTerug.Click = [this] { Foutpad("frmTavrin03 - cmdTerug - Click", [&] { Form_QueryUnload(); }); };
     for (const prepare::Klik& klik : prepare::kKlikken) {
-        rij(klik.plaats, klik.kleur).each([this, &klik](forms::Label& label) {
+        labels.rij(klik.plaats, klik.kleur).each([this, &klik](forms::Label& label) {
             label.Click = [this, &klik, index = label.index()] { klik_kaart(klik, index); };
         });
     }
 }
 
 void frmTavrin03::stel_uiterlijk_in() {
-    for (int plaats = 1; plaats <= 4; ++plaats) {
-        frame(plaats).Caption = LeesResString(kaart::bericht_van_plaats(plaats));
-        lblBieding(plaats - 1).Caption = LeesResString(kaart::bericht_van_plaats(plaats));
+    for (const int plaats : kaart::kPlaatsen) {
+        labels.fra(plaats).Caption = LeesResString(kaart::bericht_van_plaats(plaats));
+        bieding.lblBieding(plaats - 1).Caption = LeesResString(kaart::bericht_van_plaats(plaats));
     }
     lblInfo(0).Caption = LeesResString(14) + ":";
     lblInfo(1).Caption = LeesResString(15) + ":";
@@ -79,7 +75,7 @@ void frmTavrin03::Form_Load() {
         chkSorteerRVLX.Caption = LeesResString(10009);
         chkSorteerTavrin.Caption = LeesResString(10009);
         cmdOpslaan.Caption = "&" + LeesResString(10048);
-        maak_rijen();
+        labels.maak_rijen();
         MaakLabelSchoon();
         zet_raster_op();
         lees_sorteerkeuzen();
@@ -197,7 +193,7 @@ void frmTavrin03::lstRVLX_Click() {
         gedeeld.spelNaam = lstRVLX.Text();
         gedeeld.spelMap = join_path(join_path(RVLXMap, "spellen"), lstRVLX.Text());
         LeesRVLXSpelIn();
-        Kaarten::ToonBieding(*this, *this);
+        Kaarten::ToonBieding(*this, bieding);
         gedeeld.uitkomstVast = true;
     });
 }

@@ -28,7 +28,7 @@ struct Bron;
 //   frmTavrin03_Raster.cpp   msfgTavrin_Click: taking the play back
 //   frmTavrin03_Ophalen.cpp  cmdOphalen_Click
 //   frmTavrin03_Opslaan.cpp  cmdOpslaan_Click
-class frmTavrin03 final : public Scherm, public prepare::KaartLabels, public BiedingPaneel {
+class frmTavrin03 final : public Scherm {
 public:
     explicit frmTavrin03(Programma& programma);
     void Form_Load() override;
@@ -36,6 +36,8 @@ public:
     void Form_KeyUp(int key_code) override;
     void Form_QueryUnload() override;
 
+    prepare::KaartLabels labels{*this};
+    BiedingPaneel bieding{*this, {12780, 150, 4035, 3105}, {.eerste = 570, .stap = 870}};
     forms::Frame fraRVLX{*this, "fraRVLX", {90, 150, 2745, 4305}};
     forms::ListBox lstRVLX{fraRVLX, "lstRVLX", {120, 300, 2505, 3375}};
     forms::CheckBox chkSorteerRVLX{fraRVLX, "chkSorteerRVLX", {120, 3720, 2565, 285}};
@@ -44,7 +46,8 @@ public:
     forms::ListBox lstAfTavrin{fraTavrin, "lstAfTavrin", {120, 330, 2505, 3375}};
     forms::CheckBox chkSorteerTavrin{fraTavrin, "chkSorteerTavrin", {120, 3870, 2565, 285}};
 
-    forms::ControlArray<forms::Label> lblInfo{*this, "lblInfo", {{0, {2970, 240, 840, 195}}, {1, {2970, 540, 840, 195}}}};
+    forms::ControlArray<forms::Label> lblInfo{
+        *this, "lblInfo", {{0, {2970, 240, 840, 195}}, {1, {2970, 540, 840, 195}}}};
     forms::Label lblContract{*this, "lblContract", {3840, 240, 900, 195}};
     forms::Label lblUitkomstWind{*this, "lblUitkomstWind", {3840, 540, 600, 195}};
     forms::PictureBox picUitkomst{*this, "picUitkomst", {4440, 540, 210, 210}};

@@ -9,7 +9,7 @@ using prepare::kInSlag;
 
 void frmTavrin03::klik_kaart(const prepare::Klik& klik, int index) {
     Foutpad(std::string("frmTavrin03 - ") + klik.naam + " - Click", [&] {
-        forms::Label& label = rij(klik.plaats, klik.kleur)(index);
+        forms::Label& label = labels.rij(klik.plaats, klik.kleur)(index);
         if (label.BackColor == kGespeeld) return;
         const bool in_slag = label.BackColor == kInSlag;
         if (gedeeld.uitkomstVast && (in_slag || klik.eerst_vast)) {
@@ -63,7 +63,7 @@ std::optional<kaart::Kleur> frmTavrin03::te_bekennen(const prepare::Klik& klik) 
             kleur == kaart::Kleur::Klaveren ? klik.klaver : LeesResString(kaart::gegevens(kleur).letter);
         if (kleur == klik.kleur || gevraagd != letter) continue;
         for (int i = 0; i <= kHoogste; ++i) {
-            const forms::Label& label = rij(klik.plaats, kleur)(i);
+            const forms::Label& label = labels.rij(klik.plaats, kleur)(i);
             if (label.Visible && label.Enabled && label.BackColor == kInHand) return kleur;
         }
     }
@@ -72,7 +72,7 @@ std::optional<kaart::Kleur> frmTavrin03::te_bekennen(const prepare::Klik& klik) 
 
 void frmTavrin03::AanDeBeurt(std::string& wie) {
     Foutpad("frmTavrin03 - General - AanDeBeurt", [&] {
-        for (int plaats = 1; plaats <= 4; ++plaats) {
+        for (const int plaats : kaart::kPlaatsen) {
             if (lstKlaar.Tag == LeesResString(kaart::letter_van_plaats(plaats))) {
                 wie = LeesResString(kaart::bericht_van_plaats(plaats));
                 break;
@@ -98,7 +98,7 @@ void frmTavrin03::VolgendeKaart(int& speler, const std::string& kaart, int index
             }
             if (LeesModus) slagrij = msfgTavrin.Rows() - 1;
             const auto kleur = kleur_van_letter(left(kaart, 1));
-            if (kleur && speler >= 1 && speler <= 4) rij(speler, *kleur)(index).BackColor = kInSlag;
+            if (kleur && speler >= 1 && speler <= 4) labels.rij(speler, *kleur)(index).BackColor = kInSlag;
             msfgTavrin.Row = slagrij;
         }
         lstKlaar.Clear();
@@ -146,7 +146,7 @@ void frmTavrin03::bepaal_winnaar() {
 }
 
 void frmTavrin03::sluit_slag(int slagrij, int& speler) {
-    elk_label([](forms::Label& label) {
+    labels.elk_label([](forms::Label& label) {
         if (label.BackColor == kInSlag) label.BackColor = kGespeeld;
     });
     msfgTavrin.Col = SlagWinnaar;
@@ -166,7 +166,7 @@ void frmTavrin03::sluit_slag(int slagrij, int& speler) {
 }
 
 void frmTavrin03::tel_slag_voor(int kolom) {
-    forms::Label& teller = kolom == 1 || kolom == 3 ? lblSlagenTellerNZ : lblSlagenTellerOW;
+    forms::Label& teller = kolom == kaart::kNoord || kolom == kaart::kZuid ? lblSlagenTellerNZ : lblSlagenTellerOW;
     teller.Caption = std::to_string(numeric_value(teller.Caption()) + 1);
 }
 
@@ -188,7 +188,7 @@ std::optional<kaart::Kleur> frmTavrin03::kleur_van_letter(const std::string& let
 
 void frmTavrin03::MaakLabelSchoon() {
     Foutpad("frmTavrin03 - General - MaakLabelSchoon", [&] {
-        elk_label([](forms::Label& label) {
+        labels.elk_label([](forms::Label& label) {
             label.Caption = "";
             label.Visible = false;
             label.BackColor = kInHand;
@@ -200,9 +200,9 @@ void frmTavrin03::KleurKaartGroen(int speler, const std::string& waarde, const s
     Foutpad("frmTavrin03 - General - KleurKaartGroen", [&] {
         const auto van = kleur_van_letter(kleur);
         if (!van || speler < 1 || speler > 4) return;
-        for (int i = 0; i <= kHoogste && rij(speler, *van)(i).Visible; ++i) {
-            if (!(rij(speler, *van)(i).Caption == waarde)) continue;
-            rij(speler, *van)(i).BackColor = kGespeeld;
+        for (int i = 0; i <= kHoogste && labels.rij(speler, *van)(i).Visible; ++i) {
+            if (!(labels.rij(speler, *van)(i).Caption == waarde)) continue;
+            labels.rij(speler, *van)(i).BackColor = kGespeeld;
             return;
         }
     });
@@ -220,7 +220,7 @@ void Kaarten::SlagenTeller(frmTavrin03& scherm) {
             for (int kolom = 1; kolom < raster.Cols(); ++kolom) {
                 raster.Col = kolom;
                 if (raster.CellBackColor() == kInHand) continue;
-                ++(kolom == 1 || kolom == 3 ? noord_zuid : oost_west);
+                ++(kolom == kaart::kNoord || kolom == kaart::kZuid ? noord_zuid : oost_west);
             }
         }
         raster.Visible = true;

@@ -58,9 +58,9 @@ void LeesVraag(frmTavrin02& tafel) {
         vraag.Text = "";
         tafel.txtKnipTekst.Text = "";
         tafel.lstKnipTekst.Clear();
-        vraag.Width = tafel.fraBieding.Width;
-        vraag.Move(tafel.fraBieding.Left, tafel.hand(2)(1).Top);
-        vraag.Height = tafel.hand(3)(1).bottom() - vraag.Top;
+        vraag.Width = tafel.bieding.fraBieding.Width;
+        vraag.Move(tafel.bieding.fraBieding.Left, tafel.picKaart(kaart::kOost)(1).Top);
+        vraag.Height = tafel.picKaart(kaart::kZuid)(1).bottom() - vraag.Top;
 
         const std::string pad = bestand(tafel.gedeeld, " vraag.txt");
         if (aanwezig(pad)) {

@@ -1,6 +1,8 @@
 // The reading routines where the table's tests don't come.
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "cards/Kaarten.h"
 #include "support/Program.h"
 #include "table/frmTavrin02.h"
@@ -47,12 +49,39 @@ TEST_F(Cards, AreToldByTheirCode) {
     EXPECT_EQ(kaart::titel(2213) + ", " + kaart::titel(2214) + ", " + kaart::titel(2253), "Schoppen Aas, Harten 2, ");
 }
 
+TEST_F(Cards, SeatThatIsNoneIsTheFailureOfItsOwner) {
+    write_package(program, Package::west_wins_all());
+    open();
+    const struct {
+        const char* owner;
+        int number;
+        std::function<void(int)> reach;
+    } cases[] = {{"hands on the table", 9, [&](int seat) { table().picKaart(seat); }},
+                 {"played cards", 9, [&](int seat) { table().picGespeeld(seat); }},
+                 {"values", 9, [](int seat) { kaart::kPlaatsNaam(seat); }},
+                 {"cards of a trick", 340, [&](int seat) { table().picPlay(seat); }},
+                 {"string lists", 340, [&](int seat) { table().lijsten.lstHand(seat); }},
+                 {"bids", 340, [&](int seat) { table().bieding.lblB(seat); }}};
+    for (const auto& each : cases) {
+        for (const int seat : kaart::kPlaatsen)
+            each.reach(seat);
+        for (const int seat : {0, 5, -1}) {
+            try {
+                each.reach(seat);
+                ADD_FAILURE() << each.owner << " of seat " << seat;
+            } catch (const Fout& fout) {
+                EXPECT_EQ(fout.nummer(), each.number) << each.owner << " of seat " << seat;
+            }
+        }
+    }
+}
+
 TEST_F(Cards, AreDealtTwiceIntoTheSuitsByASecondCall) {
     write_package(program, Package::west_wins_all());
     open();
     EXPECT_EQ(get("lstHand(1)[0].Text"), "2214") << "the lowest card of Noord";
     EXPECT_EQ(get("lstSchoppen(4).ListCount"), "13");
-    Kaarten::VerdeelDeKaarten(table(), table());
+    Kaarten::VerdeelDeKaarten(table(), table().lijsten);
     EXPECT_EQ(get("lstHand(4).ListCount"), "13");
     EXPECT_EQ(get("lstSchoppen(4).ListCount"), "26");
 }

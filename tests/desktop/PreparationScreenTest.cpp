@@ -45,7 +45,7 @@ protected:
     frmTavrin03& preparation() { return screen<frmTavrin03>(); }
 
     forms::Label& label(const Played& card) {
-        auto& row = preparation().rij(card.seat, static_cast<kaart::Kleur>(card.suit));
+        auto& row = preparation().labels.rij(card.seat, static_cast<kaart::Kleur>(card.suit));
         for (int i = 0; i <= prepare::kHoogste; ++i) {
             if (row(i).Visible() && row(i).Caption() == std::string(1, card.rank)) return row(i);
         }
