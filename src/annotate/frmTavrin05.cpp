@@ -39,7 +39,10 @@ forms::Rect merk_plek(int index) {
 }  // namespace
 
 frmTavrin05::frmTavrin05(Programma& programma)
-    : Scherm(programma, "frmTavrin05", kInner),
+    : Scherm(programma, "frmTavrin05", kInner,
+             {.key_up = "frmTavrin05 - Form - KeyUp",
+              .terug = "frmTavrin05 - cmdTerug - Click",
+              .query_unload = "frmTavrin05 - Form - QueryUnload"}),
       lblKaartNummer(fraSlag, "lblKaartNummer", 1, 4, kKompas),
       picKaart(fraSlag, "picKaart", 1, 4, kaart_plek),
       lblYesNo(fraKaartMetTekst, "lblYesNo", 0, kKaarten - 1, nummer_plek),
@@ -54,7 +57,7 @@ frmTavrin05::frmTavrin05(Programma& programma)
     cmdVoorBeeld.Click = [this] { cmdVoorBeeld_Click(); };
     cmdSluiten.Click = [this] { cmdSluiten_Click(); };
     cmdToonSpel.Click = [this] { cmdToonSpel_Click(); };
-    cmdTerug.Click = [this] { Foutpad("frmTavrin05 - cmdTerug - Click", [&] { Form_QueryUnload(); }); };
+    cmdTerug.Click = [this] { cmdTerug_Click(); };
     for (const auto& [i, label] : lblKaartNummer)
         label->Click = [this, i = i] { lblKaartNummer_Click(i); };
     for (const auto& [i, kaart] : picKaart)
@@ -156,22 +159,9 @@ void frmTavrin05::Form_Activate() {
     Foutpad("frmTavrin05 - Form - Activate", [&] { cmdFocus.SetFocus(); });
 }
 
-void frmTavrin05::Form_KeyUp(int key_code) {
-    Foutpad("frmTavrin05 - Form - KeyUp", [&] {
-        if (key_code == forms::kKeyEscape) Form_QueryUnload();
-    });
-}
-
-void frmTavrin05::Form_QueryUnload() {
-    Foutpad("frmTavrin05 - Form - QueryUnload", [&] {
-        programma.schermen.toon("frmTavrin01");
-        Unload();
-    });
-}
-
 void frmTavrin05::chkSorteer_Click() {
     Foutpad("frmTavrin05 - chkSorteer - Click", [&] {
-        chkSorteer.Caption = chkSorteer.Caption == LeesResString(10009) ? LeesResString(10010) : LeesResString(10009);
+        wissel_opschrift(chkSorteer);
         schakel_kaders(false);
         lees_spellen();
         cmdFocus.SetFocus();

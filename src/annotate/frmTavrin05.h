@@ -22,8 +22,6 @@ public:
     explicit frmTavrin05(Programma& programma);
     void Form_Load() override;
     void Form_Activate() override;
-    void Form_KeyUp(int key_code) override;
-    void Form_QueryUnload() override;
 
     forms::Frame fraSpellen{*this, "fraSpellen", {90, 120, 2355, 6405}};
     forms::ListBox lstSpellen{fraSpellen, "lstSpellen", {150, 360, 2055, 4935}};
@@ -40,7 +38,7 @@ public:
     forms::ControlArray<forms::PictureBox> picKaart;   // below each its card
 
     forms::Frame fraKaartMetTekst{*this, "fraKaartMetTekst", {8340, 120, 7815, 6405}};  // Tag: index of the chosen card
-    forms::ControlArray<forms::Label> lblYesNo;       // numbers of the cards, 0 to 51
+    forms::ControlArray<forms::Label> lblYesNo;                                         // numbers of the cards, 0 to 51
     forms::ControlArray<forms::PictureBox> picYesNo;  // below each whether it has a text
     forms::PictureBox picJa{fraKaartMetTekst, "picJa", {0, 0, 450, 450}};
     forms::PictureBox picNee{fraKaartMetTekst, "picNee", {0, 0, 450, 450}};

@@ -22,7 +22,11 @@ constexpr Colour kTafelgroen = Colour::rgb(24, 96, 60);
 }  // namespace
 
 frmTavrin06::frmTavrin06(Programma& programma)
-    : Scherm(programma, "frmTavrin06", kInner), picKaart([this](int plaats) {
+    : Scherm(programma, "frmTavrin06", kInner,
+             {.key_up = "frmTavrin06 - Form - KeyUp",
+              .terug = "frmTavrin06 - cmdTerug - Click",
+              .query_unload = "frmTavrin06 - Form - QueryUnload"}),
+      picKaart([this](int plaats) {
           const double links = plaats == kaart::kOost ? kOostOntwerp : 0;
           return forms::ControlArray<forms::PictureBox>(picBack, std::string("picKaart") + kaart::kPlaatsNaam(plaats),
                                                         {{0, {links, 0, kKaartBreedte, kKaartHoogte}}});
@@ -37,7 +41,7 @@ frmTavrin06::frmTavrin06(Programma& programma)
             kaart.Visible = false;
         });
     }
-    cmdTerug.Click = [this] { Foutpad("frmTavrin06 - cmdTerug - Click", [&] { Form_QueryUnload(); }); };
+    cmdTerug.Click = [this] { cmdTerug_Click(); };
 }
 
 void frmTavrin06::Form_Load() {
@@ -102,15 +106,6 @@ void frmTavrin06::leg_kleuren(int plaats, double links, bool binnen_kader) {
 
 void frmTavrin06::Form_Resize() { Bas_Aftavrin::PasMatenAan(programma, *this); }
 
-void frmTavrin06::Form_KeyUp(int key_code) {
-    Foutpad("frmTavrin06 - Form - KeyUp", [&] {
-        if (key_code == forms::kKeyEscape) Form_QueryUnload();
-    });
-}
-
-void frmTavrin06::Form_QueryUnload() {
-    Foutpad("frmTavrin06 - Form - QueryUnload", [&] {
-        if (gedeeld.vorigScherm == 5) programma.schermen.toon("frmTavrin05");
-        Unload();
-    });
+void frmTavrin06::verlaat() {
+    if (gedeeld.vorigScherm == 5) programma.schermen.toon("frmTavrin05");
 }

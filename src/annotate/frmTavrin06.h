@@ -12,8 +12,6 @@ class frmTavrin06 final : public Scherm {
 public:
     explicit frmTavrin06(Programma& programma);
     void Form_Load() override;
-    void Form_KeyUp(int key_code) override;
-    void Form_QueryUnload() override;
     void Form_Resize() override;
     bool is_sizable() const override { return true; }
 
@@ -27,6 +25,7 @@ public:
     kaart::PerKleur<forms::ListBox> lstZuid{sorted_lists_by_suit(*this, "lstZuid")};  // lstZuidSchoppen and so on
 
 private:
+    void verlaat() override;
     void leg_rij(int plaats, double boven);
     void leg_kleuren(int plaats, double links, bool binnen_kader);
     void leg_kaart(forms::PictureBox& plek, const std::string& code, double links, double boven);

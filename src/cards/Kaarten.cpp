@@ -3,6 +3,7 @@
 #include "cards/PerPlaats.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
+#include "services/MappenLijst.h"
 
 namespace Kaarten {
 
@@ -73,14 +74,6 @@ void VerdeelDeKaarten(Scherm& scherm, HandLijsten& lijsten) {
 void LeesSpellen(Scherm& scherm, forms::ListBox& lstSpellen, forms::DirListBox& mappen, const std::string& map,
                  int volgorde) {
     scherm.Foutpad("Kaarten - General - LeesSpellen", [&] { vul_met_mappen(lstSpellen, mappen, map, volgorde); });
-}
-
-void vul_met_mappen(forms::ListBox& lijst, forms::DirListBox& mappen, const std::string& map, int volgorde) {
-    mappen.Path = map;
-    lijst.Clear();
-    const int aantal = mappen.ListCount();
-    for (int i = 0; i < aantal; ++i)
-        lijst.AddItem(mappen.List(volgorde == 1 ? aantal - 1 - i : i));
 }
 
 void WelkeKaartIsDit(Scherm& scherm, const std::string& kaartcode) {

@@ -16,7 +16,8 @@ constexpr const char* kWerkmap = "C:\\";
 
 }  // namespace
 
-frmTavrin01::frmTavrin01(Programma& programma) : Scherm(programma, "frmTavrin01", kInner) {
+frmTavrin01::frmTavrin01(Programma& programma)
+    : Scherm(programma, "frmTavrin01", kInner, {.query_unload = "frmTavrin01 - Form - QueryUnload"}) {
     picLogo.Picture = {0, "logo"};
     picLogo.Opaque = false;
     imaDeMaker.Picture = {0, "maker"};
@@ -28,20 +29,14 @@ frmTavrin01::frmTavrin01(Programma& programma) : Scherm(programma, "frmTavrin01"
         klein->FontSize = 6.75;
     lblVersie.AutoSize = true;
 
-    const auto toon = [this](const std::string& knop, const std::string& scherm) {
-        return [=, this] {
-            Foutpad("frmTavrin01 - " + knop + " - Click", [&] { this->programma.schermen.toon(scherm); });
-        };
+    cmdNieuwSpel.Click = [this] {
+        Foutpad("frmTavrin01 - cmdNieuwSpel - Click", [this] { this->programma.schermen.toon("frmTavrin03"); });
     };
-    const auto vervang = [this](const std::string& knop, const std::string& scherm) {
-        return [=, this] { open_in_plaats(knop, scherm); };
-    };
-    cmdNieuwSpel.Click = toon("cmdNieuwSpel", "frmTavrin03");
-    cmdHerbeNoem.Click = vervang("cmdHerbeNoem", "frmTavrin04");
-    cmdKaartenEditor.Click = vervang("cmdKaartenEditor", "frmTavrin05");
-    cmdImportExport.Click = vervang("cmdImportExport", "frmTavrin07");
+    cmdHerbeNoem.Click = [this] { open_in_plaats("frmTavrin01 - cmdHerbeNoem - Click", "frmTavrin04"); };
+    cmdKaartenEditor.Click = [this] { open_in_plaats("frmTavrin01 - cmdKaartenEditor - Click", "frmTavrin05"); };
+    cmdImportExport.Click = [this] { open_in_plaats("frmTavrin01 - cmdImportExport - Click", "frmTavrin07"); };
     cmdTavrin.Click = [this] {
-        Foutpad("frmTavrin01 - cmdTavrin - Click", [&] {
+        Foutpad("frmTavrin01 - cmdTavrin - Click", [this] {
             this->programma.schermen.toon("frmTavrin02");
             Form_QueryUnload();
         });
@@ -143,7 +138,7 @@ void frmTavrin01::chkSorteer_Click() {
         cmdHerbeNoem.Enabled = false;
         cmdWissen.Enabled = false;
         cmdTavrin.Enabled = false;
-        chkSorteer.Caption = chkSorteer.Caption == LeesResString(10009) ? LeesResString(10010) : LeesResString(10009);
+        wissel_opschrift(chkSorteer);
         lees_spellen();
         cmdFocus.SetFocus();
     });
@@ -231,8 +226,8 @@ void frmTavrin01::meld_geen_update() {
         "https://" + Bas_Aftavrin::Server(programma) + "/download/download-software/zandolin-lomert", "", kWerkmap);
 }
 
-void frmTavrin01::open_in_plaats(const std::string& knop, const std::string& scherm) {
-    Foutpad("frmTavrin01 - " + knop + " - Click", [&] {
+void frmTavrin01::open_in_plaats(const char* plaats, const char* scherm) {
+    Foutpad(plaats, [&] {
         Hide();
         programma.schermen.toon(scherm);
     });
@@ -242,8 +237,4 @@ void frmTavrin01::Form_KeyUp(int key_code) {
     Foutpad("frmTavrin01 - Form - KeyUp", [&] {
         if (key_code == forms::kKeyEscape) beeindig_programma();
     });
-}
-
-void frmTavrin01::Form_QueryUnload() {
-    Foutpad("frmTavrin01 - Form - QueryUnload", [&] { Unload(); });
 }

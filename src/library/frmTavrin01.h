@@ -19,7 +19,6 @@ public:
     void Form_Load() override;
     void Form_Activate() override;
     void Form_KeyUp(int key_code) override;
-    void Form_QueryUnload() override;
 
     forms::PictureBox picLogo{*this, "picLogo", {255, 165, 3120, 810}};
     forms::Image imaDeMaker{*this, "imaDeMaker", {1027, 1035, 1650, 1650}};
@@ -44,6 +43,7 @@ public:
     forms::FileListBox filFiles{*this, "filFiles", {3450, 2220, 735, 285}};
 
 private:
+    void verlaat() override {}  // what follows stands there already
     void zet_opschriften();
     void BestaatRVLX();
     void test_verbinding();
@@ -56,7 +56,7 @@ private:
     bool haal_installatie(const std::string& bestand);
     void meld_geen_update();
     // Hides this screen and shows the other.
-    void open_in_plaats(const std::string& knop, const std::string& scherm);
+    void open_in_plaats(const char* plaats, const char* scherm);
 
     std::string RVLXPad;  // program-files folder that holds the companion; empty when it was not found
 };

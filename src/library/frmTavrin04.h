@@ -17,8 +17,6 @@ public:
     explicit frmTavrin04(Programma& programma);
     void Form_Load() override;
     void Form_Activate() override;
-    void Form_KeyUp(int key_code) override;
-    void Form_QueryUnload() override;
 
     forms::Frame fraTavrin{*this, "fraTavrin", {90, 150, 3825, 3765}};
     forms::ListBox lstAfTavrin{fraTavrin, "lstAfTavrin", {120, 330, 3555, 2985}};
@@ -42,7 +40,8 @@ public:
 private:
     // A number box, its bar, and the box that it excludes.
     struct Reeks {
-        const char* naam;  // that the place strings end in
+        const char* plaats_van_nummer;  // the place strings of their changes
+        const char* plaats_van_balk;
         forms::TextBox& nummer;
         forms::VScrollBar& balk;
         forms::TextBox& andere;
@@ -53,7 +52,6 @@ private:
     void LeesAfTavrinSpellen();
     int voorstel();
     void vul_nummers(int voorgesteld);
-    void chkSorteerTavrin_Click();
     void lstAfTavrin_Click();
     void nummer_veranderd(const Reeks& reeks);
     void balk_verschoven(const Reeks& reeks);

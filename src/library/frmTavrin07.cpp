@@ -1,6 +1,5 @@
 #include "library/frmTavrin07.h"
 
-#include "cards/Kaarten.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "services/Bas_Aftavrin.h"
@@ -12,16 +11,18 @@ constexpr forms::Size kInner{10515, 6885};
 constexpr const char* kMerkVanStick = "[usb-drive]";
 constexpr const char* kMapOpStick = "QVT_Spellen";
 
-std::string klik_van(const std::string& control) { return "frmTavrin07 - " + control + " - Click"; }
-
 }  // namespace
 
-frmTavrin07::frmTavrin07(Programma& programma) : Scherm(programma, "frmTavrin07", kInner) {
+frmTavrin07::frmTavrin07(Programma& programma)
+    : Scherm(programma, "frmTavrin07", kInner,
+             {.key_up = "frmTavrin07 - Form - KeyUp",
+              .terug = "frmTavrin07 - cmdTerug - Click",
+              .query_unload = "frmTavrin07 - Form - QueryUnload"}) {
     for (const Kant* kant : {&exporteer, &importeer})
         stel_kant_in(*kant);
     cmdCheckVoorUSB.Visible = false;
     cmdCheckVoorUSB.Click = [this] { cmdCheckVoorUSB_Click(); };
-    cmdTerug.Click = [this] { Foutpad(klik_van("cmdTerug"), [&] { Form_QueryUnload(); }); };
+    cmdTerug.Click = [this] { cmdTerug_Click(); };
 }
 
 void frmTavrin07::stel_kant_in(const Kant& kant) {
@@ -115,12 +116,12 @@ void frmTavrin07::LeesExporteer(const Kant& kant) {
         kant.knop.Enabled = false;
         if (map.empty()) return;
         if (&kant == &importeer) refuse_links(stick(), map);
-        Kaarten::vul_met_mappen(kant.lijst, kant.mappen, map, kant.sorteer.Value);
+        vul_met_mappen(kant.lijst, kant.mappen, map, kant.sorteer.Value);
     });
 }
 
 void frmTavrin07::lijst_Click(const Kant& kant) {
-    Foutpad(klik_van(std::string("lst") + kant.naam), [&] {
+    Foutpad(kant.plaatsen.lijst, [&] {
         if (kant.lijst.ListIndex == -1) {
             if (cmdFocus.Visible) cmdFocus.SetFocus();
             return;
@@ -130,7 +131,7 @@ void frmTavrin07::lijst_Click(const Kant& kant) {
 }
 
 void frmTavrin07::chkSelecteer_Click(const Kant& kant) {
-    Foutpad(klik_van(kant.plaatsVanSelecteer), [&] {
+    Foutpad(kant.plaatsen.selecteer, [&] {
         const bool alles = kant.selecteer.Caption == LeesResString(86);
         kant.selecteer.Caption = LeesResString(alles ? 87 : 86);
         for (int i = 0; i < kant.lijst.ListCount(); ++i)
@@ -139,8 +140,8 @@ void frmTavrin07::chkSelecteer_Click(const Kant& kant) {
 }
 
 void frmTavrin07::chkSorteer_Click(const Kant& kant) {
-    Foutpad(klik_van(std::string("chkSorteer") + kant.naam), [&] {
-        kant.sorteer.Caption = LeesResString(kant.sorteer.Caption == LeesResString(10009) ? 10010 : 10009);
+    Foutpad(kant.plaatsen.sorteer, [&] {
+        wissel_opschrift(kant.sorteer);
         LeesExporteer(kant);
         // Twice, so that the box's state applies to the new lines.
         chkSelecteer_Click(kant);
@@ -150,7 +151,7 @@ void frmTavrin07::chkSorteer_Click(const Kant& kant) {
 }
 
 void frmTavrin07::cmdCheckVoorUSB_Click() {
-    Foutpad(klik_van("cmdCheckVoorUSB"), [&] {
+    Foutpad("frmTavrin07 - cmdCheckVoorUSB - Click", [&] {
         cmdCheckVoorUSB.Visible = false;
         if (zoek_stick()) {
             LeesExporteer(importeer);
@@ -162,7 +163,7 @@ void frmTavrin07::cmdCheckVoorUSB_Click() {
 }
 
 void frmTavrin07::knop_Click(const Kant& kant) {
-    Foutpad(klik_van(std::string("cmd") + kant.naam), [&] {
+    Foutpad(kant.plaatsen.knop, [&] {
         kant.knop.Enabled = false;
         if (!zoek_stick()) {
             meld_geen_stick();
@@ -212,17 +213,4 @@ void frmTavrin07::kopieer_spel(const std::string& spel, const Kant& kant, const 
     for (const std::string& bestand : bestanden) {
         replace_by_copy(join_path(van, bestand), join_path(naar, bestand), inlezen ? Links::Refuse : Links::Follow);
     }
-}
-
-void frmTavrin07::Form_KeyUp(int key_code) {
-    Foutpad("frmTavrin07 - Form - KeyUp", [&] {
-        if (key_code == forms::kKeyEscape) Form_QueryUnload();
-    });
-}
-
-void frmTavrin07::Form_QueryUnload() {
-    Foutpad("frmTavrin07 - Form - QueryUnload", [&] {
-        programma.schermen.toon("frmTavrin01");
-        Unload();
-    });
 }

@@ -12,16 +12,24 @@ constexpr forms::Size kInner{16950, 9585};
 
 }  // namespace
 
-frmTavrin03::frmTavrin03(Programma& programma) : Scherm(programma, "frmTavrin03", kInner) {
+frmTavrin03::frmTavrin03(Programma& programma)
+    : Scherm(programma, "frmTavrin03", kInner,
+             {.key_up = "frmTavrin03 - Form - KeyUp",
+              .terug = "frmTavrin03 - cmdTerug - Click",
+              .query_unload = "frmTavrin03 - Form - QueryUnload"}) {
     stel_uiterlijk_in();
-    chkSorteerRVLX.Click = [this] { chkSorteerRVLX_Click(); };
-    chkSorteerTavrin.Click = [this] { chkSorteerTavrin_Click(); };
+    chkSorteerRVLX.Click = [this] {
+        sorteer("frmTavrin03 - chkSorteerRVLX - Click", chkSorteerRVLX, [this] { LaatRVLXSpellenZien(); });
+    };
+    chkSorteerTavrin.Click = [this] {
+        sorteer("frmTavrin03 - chkSorteerTavrin - Click", chkSorteerTavrin, [this] { LeesAftavrinSpellen(); });
+    };
     lstRVLX.Click = [this] { lstRVLX_Click(); };
     lstAfTavrin.Click = [this] { lstAfTavrin_Click(); };
     cmdOpslaan.Click = [this] { cmdOpslaan_Click(); };
     cmdOphalen.Click = [this] { cmdOphalen_Click(); };
     msfgTavrin.Click = [this] { msfgTavrin_Click(); };
-    cmdTerug.Click = [this] { Foutpad("frmTavrin03 - cmdTerug - Click", [&] { Form_QueryUnload(); }); };
+    cmdTerug.Click = [this] { cmdTerug_Click(); };
     for (const prepare::Klik& klik : prepare::kKlikken) {
         labels.rij(klik.plaats, klik.kleur).each([this, &klik](forms::Label& label) {
             label.Click = [this, &klik, index = label.index()] { klik_kaart(klik, index); };
@@ -123,58 +131,15 @@ void frmTavrin03::Form_Activate() {
     });
 }
 
-void frmTavrin03::Form_KeyUp(int key_code) {
-    Foutpad("frmTavrin03 - Form - KeyUp", [&] {
-        if (key_code == forms::kKeyEscape) Form_QueryUnload();
-    });
-}
-
-void frmTavrin03::Form_QueryUnload() {
-    Foutpad("frmTavrin03 - Form - QueryUnload", [&] {
-        programma.schermen.toon("frmTavrin01");
-        Unload();
-    });
-}
-
-namespace {
-
-// Fills a list of deals from its folder, in the direction of its box, whose caption names what a next click would do.
-// As long as the folder is not known the list stays empty and nothing is made.
-void toon_mappen(frmTavrin03& scherm, forms::ListBox& lijst, forms::DirListBox& mappen, forms::CheckBox& keuze,
-                 const std::string& map) {
-    keuze.Caption = scherm.LeesResString(keuze.Value == 1 ? 10010 : 10009);
-    if (map.empty()) return;
-    std::string pad = map;
-    Bas_Aftavrin::MaakPad(pad);
-    Kaarten::vul_met_mappen(lijst, mappen, map, keuze.Value);
-}
-
-}  // namespace
-
 void frmTavrin03::LaatRVLXSpellenZien() {
     Foutpad("frmTavrin03 - General - LaatRVLXSpellenZien", [&] {
-        toon_mappen(*this, lstRVLX, dirRVLX, chkSorteerRVLX, RVLXMap.empty() ? "" : join_path(RVLXMap, "spellen"));
+        toon_mappen({lstRVLX, dirRVLX, chkSorteerRVLX}, RVLXMap.empty() ? "" : join_path(RVLXMap, "spellen"));
     });
 }
 
 void frmTavrin03::LeesAftavrinSpellen() {
-    Foutpad("frmTavrin03 - General - LeesAftavrinSpellen",
-            [&] { toon_mappen(*this, lstAfTavrin, dirAftavrin, chkSorteerTavrin, aftavrinMap); });
-}
-
-void frmTavrin03::chkSorteerRVLX_Click() {
-    Foutpad("frmTavrin03 - chkSorteerRVLX - Click", [&] {
-        if (cmdFocus.Visible) cmdFocus.SetFocus();
-        bewaar_keuze(chkSorteerRVLX);
-        LaatRVLXSpellenZien();
-    });
-}
-
-void frmTavrin03::chkSorteerTavrin_Click() {
-    Foutpad("frmTavrin03 - chkSorteerTavrin - Click", [&] {
-        if (cmdFocus.Visible) cmdFocus.SetFocus();
-        bewaar_keuze(chkSorteerTavrin);
-        LeesAftavrinSpellen();
+    Foutpad("frmTavrin03 - General - LeesAftavrinSpellen", [&] {
+        toon_mappen({lstAfTavrin, dirAftavrin, chkSorteerTavrin}, aftavrinMap);
     });
 }
 

@@ -33,8 +33,6 @@ public:
     explicit frmTavrin03(Programma& programma);
     void Form_Load() override;
     void Form_Activate() override;
-    void Form_KeyUp(int key_code) override;
-    void Form_QueryUnload() override;
 
     prepare::KaartLabels labels{*this};
     BiedingPaneel bieding{*this, {12780, 150, 4035, 3105}, {.eerste = 570, .stap = 870}};
@@ -109,8 +107,6 @@ private:
     void stel_uiterlijk_in();
     void zet_raster_op();
     void lees_sorteerkeuzen();
-    void chkSorteerRVLX_Click();
-    void chkSorteerTavrin_Click();
     void lstRVLX_Click();
     void lstAfTavrin_Click();
     void cmdOpslaan_Click();

@@ -8,7 +8,7 @@ using prepare::kInHand;
 using prepare::kInSlag;
 
 void frmTavrin03::klik_kaart(const prepare::Klik& klik, int index) {
-    Foutpad(std::string("frmTavrin03 - ") + klik.naam + " - Click", [&] {
+    Foutpad(klik.plaats_van_klik, [&] {
         forms::Label& label = labels.rij(klik.plaats, klik.kleur)(index);
         if (label.BackColor == kGespeeld) return;
         const bool in_slag = label.BackColor == kInSlag;

@@ -14,14 +14,15 @@ constexpr int kOgenDicht = 150;
 
 }  // namespace
 
-frmTavrin08::frmTavrin08(Programma& programma) : Scherm(programma, "frmTavrin08", kInner) {
+frmTavrin08::frmTavrin08(Programma& programma) : Scherm(programma, "frmTavrin08", kInner, {}) {
     picSurprice(0).Picture = {0, "gezicht0"};
     picSurprice(1).Picture = {0, "gezicht1"};
     picSurprice.each([](forms::PictureBox& picture) { picture.Visible = false; });
     picShow.Picture = picSurprice(0).Picture();
     picShow.Opaque = false;
     timPic.Interval = kEersteTik;
-    for (const int i : {3, 4, 5}) lblWatWaar(i).AutoSize = true;
+    for (const int i : {3, 4, 5})
+        lblWatWaar(i).AutoSize = true;
     lblFoutInfo.each([](forms::Label& label) { label.AutoSize = true; });
     lblWatWaar(4).FontBold = true;
 
@@ -34,13 +35,15 @@ void frmTavrin08::Form_Load() {
     Caption = LeesResString(95);
     cmdAfsluiten.Caption = "&" + LeesResString(7);
     cmdInterNet.Caption = "&" + LeesResString(97);
-    for (const int i : {0, 1, 2}) lblWatWaar(i).Caption = LeesResString(91 + i);
+    for (const int i : {0, 1, 2})
+        lblWatWaar(i).Caption = LeesResString(91 + i);
 
     lblFoutInfo(0).Caption = gedeeld.foutPlaats;
     lblFoutInfo(1).Caption = forms::property_text(gedeeld.foutNummer);
     lblFoutInfo(2).Caption = gedeeld.foutNaam;
     for (auto* labels : {&lblWatWaar, &lblFoutInfo}) {
-        for (const auto& [index, label] : *labels) label->BorderStyle = 0;
+        for (const auto& [index, label] : *labels)
+            label->BorderStyle = 0;
     }
 
     if (gedeeld.internetOk) {
@@ -50,12 +53,14 @@ void frmTavrin08::Form_Load() {
         lblWatWaar(5).Caption = LeesResString(96);
         cmdInterNet.Visible = false;
     }
-    for (const int i : {3, 4, 5}) lblWatWaar(i).Left = lblWatWaar(1).Left;
+    for (const int i : {3, 4, 5})
+        lblWatWaar(i).Left = lblWatWaar(1).Left;
     lblWatWaar(4).Caption = LeesResString(94);
 
     // The window is as wide as the longest line needs, as far as the screen goes.
     for (auto* labels : {&lblWatWaar, &lblFoutInfo}) {
-        for (const auto& [index, label] : *labels) Width = std::max(Width(), label->right() + kMarge);
+        for (const auto& [index, label] : *labels)
+            Width = std::max(Width(), label->right() + kMarge);
     }
     Width = std::max(kInner.width, std::min(Width(), windows().host().screen_size().width - 2 * kMarge));
     centreer();

@@ -14,6 +14,7 @@ public:
     explicit frmTavrin08(Programma& programma);
     void Form_Load() override;
     void Form_Activate() override;
+    void Form_KeyUp(int /*key_code*/) override {}  // it has no key
     void Form_QueryUnload() override;
     bool is_report() const override { return true; }
 
@@ -28,11 +29,8 @@ public:
                                                   {3, {2730, 1620, 6120, 555}},
                                                   {4, {2790, 300, 930, 225}},
                                                   {5, {2730, 2400, 930, 225}}}};
-    forms::ControlArray<forms::Label> lblFoutInfo{*this,
-                                                  "lblFoutInfo",
-                                                  {{0, {3810, 720, 930, 225}},
-                                                   {1, {3780, 990, 930, 225}},
-                                                   {2, {3780, 1260, 930, 225}}}};
+    forms::ControlArray<forms::Label> lblFoutInfo{
+        *this, "lblFoutInfo", {{0, {3810, 720, 930, 225}}, {1, {3780, 990, 930, 225}}, {2, {3780, 1260, 930, 225}}}};
     forms::CommandButton cmdAfsluiten{*this, "cmdAfsluiten", {120, 2280, 2145, 495}};
     forms::CommandButton cmdInterNet{*this, "cmdInterNet", {6690, 2280, 2145, 495}};
 

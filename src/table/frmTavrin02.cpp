@@ -34,7 +34,10 @@ double kolom(int plaats) { return kEersteKolom + kKolomStap * (plaats - 1); }
 }  // namespace
 
 frmTavrin02::frmTavrin02(Programma& programma)
-    : Scherm(programma, "frmTavrin02", kInner),
+    : Scherm(programma, "frmTavrin02", kInner,
+             {.key_up = "frmTavrin02 - Form - KeyUp",
+              .terug = "frmTavrin02 - cmdTerug - Click",
+              .query_unload = "frmTavrin02 - Form - QueryUnload"}),
       picKaart([this](int plaats) {
           return forms::ControlArray<forms::PictureBox>(picBack, std::string("picKaart") + kaart::kPlaatsNaam(plaats),
                                                         {{1, {0, 0, kKaartBreedte, kKaartHoogte}}});
@@ -64,7 +67,7 @@ frmTavrin02::frmTavrin02(Programma& programma)
           return forms::Rect{0, 0, kSymbool, kSymbool};
       }) {
     stel_uiterlijk_in();
-    cmdTerug.Click = [this] { Foutpad("frmTavrin02 - cmdTerug - Click", [this] { Form_QueryUnload(); }); };
+    cmdTerug.Click = [this] { cmdTerug_Click(); };
     cmdStart.Click = [this] { cmdStart_Click(); };
     cmdVerder.Click = [this] { cmdVerder_Click(); };
     vscrSnelHeid.Change = [this] { vscrSnelHeid_Change(); };
@@ -262,18 +265,9 @@ void frmTavrin02::Form_Activate() {
     Foutpad("frmTavrin02 - Form - Activate", [&] { cmdStart.SetFocus(); });
 }
 
-void frmTavrin02::Form_KeyUp(int key_code) {
-    Foutpad("frmTavrin02 - Form - KeyUp", [&] {
-        if (key_code == forms::kKeyEscape) Form_QueryUnload();
-    });
-}
-
-void frmTavrin02::Form_QueryUnload() {
-    Foutpad("frmTavrin02 - Form - QueryUnload", [&] {
-        timSpeelKaart.Enabled = false;
-        programma.schermen.toon("frmTavrin01");
-        Unload();
-    });
+void frmTavrin02::verlaat() {
+    timSpeelKaart.Enabled = false;
+    Scherm::verlaat();
 }
 
 void frmTavrin02::cmdStart_Click() {

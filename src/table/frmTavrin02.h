@@ -14,8 +14,6 @@ public:
     explicit frmTavrin02(Programma& programma);
     void Form_Load() override;
     void Form_Activate() override;
-    void Form_KeyUp(int key_code) override;
-    void Form_QueryUnload() override;
 
     // Arrays of one kind, one for each seat. A seat that is none is failure 9: the word of an opening lead may name it.
     template <class T>
@@ -79,6 +77,7 @@ public:
     static void toon_kaart(forms::PictureBox& plek, int kaartcode);
 
 private:
+    void verlaat() override;
     enum class Tik { Verder, Gestopt };  // whether the play may go on after a tick
 
     void stel_uiterlijk_in();
