@@ -11,8 +11,6 @@
 namespace {
 
 constexpr forms::Size kInner{16260, 6645};
-constexpr int kKaarten = 52;
-constexpr int kSlagen = 13;
 constexpr int kPerRij = 13;
 constexpr Colour kZwart{0};
 constexpr Colour kBlauw{0xFF0000};
@@ -45,8 +43,8 @@ frmTavrin05::frmTavrin05(Programma& programma)
               .query_unload = "frmTavrin05 - Form - QueryUnload"}),
       lblKaartNummer(fraSlag, "lblKaartNummer", 1, 4, kKompas),
       picKaart(fraSlag, "picKaart", 1, 4, kaart_plek),
-      lblYesNo(fraKaartMetTekst, "lblYesNo", 0, kKaarten - 1, nummer_plek),
-      picYesNo(fraKaartMetTekst, "picYesNo", 0, kKaarten - 1, merk_plek) {
+      lblYesNo(fraKaartMetTekst, "lblYesNo", 0, kaart::kKaarten - 1, nummer_plek),
+      picYesNo(fraKaartMetTekst, "picYesNo", 0, kaart::kKaarten - 1, merk_plek) {
     stel_uiterlijk_in();
     chkSorteer.Click = [this] { chkSorteer_Click(); };
     lstSpellen.Click = [this] { lstSpellen_Click(); };
@@ -73,7 +71,7 @@ void frmTavrin05::stel_uiterlijk_in() {
     txtSlag.MaxLength = 3;
     txtSlag.Alignment = forms::Alignment::Centre;
     vscrSlag.Min = -1;
-    vscrSlag.Max = kSlagen;
+    vscrSlag.Max = kaart::kSlagen;
     lblUit.AutoSize = true;
     lblToonSlag.Visible = false;
     lblDezeKaart.AutoSize = true;
@@ -107,27 +105,27 @@ void frmTavrin05::stel_uiterlijk_in() {
 
 void frmTavrin05::Form_Load() {
     Foutpad("frmTavrin05 - Form - Load", [&] {
-        Caption = LeesResString(10057);
-        fraSpellen.Caption = LeesResString(10004);
-        chkSorteer.Caption = LeesResString(10009);
-        cmdTerug.Caption = "&" + LeesResString(10018);
-        fraSlag.Caption = LeesResString(10057);
-        lblSlag.Caption = LeesResString(10052);
-        lblUit.Caption = LeesResString(10059) + ":";
-        fraKaartMetTekst.Caption = LeesResString(10063);
-        cmdWissen.Caption = "&" + LeesResString(10005);
-        cmdVoorBeeld.Caption = "&" + LeesResString(10103);
-        cmdToonSpel.Caption = LeesResString(10065);
-        cmdGebruiken.Caption = "&" + LeesResString(10064);
-        cmdSluiten.Caption = "&" + LeesResString(10104);
+        Caption = LeesResString(Bericht::Editor);
+        fraSpellen.Caption = LeesResString(Bericht::Spellen);
+        chkSorteer.Caption = LeesResString(Bericht::SorteerHoogLaag);
+        cmdTerug.Caption = "&" + LeesResString(Bericht::Terug);
+        fraSlag.Caption = LeesResString(Bericht::Editor);
+        lblSlag.Caption = LeesResString(Bericht::Slag);
+        lblUit.Caption = LeesResString(Bericht::Uit) + ":";
+        fraKaartMetTekst.Caption = LeesResString(Bericht::BijschriftKaarten);
+        cmdWissen.Caption = "&" + LeesResString(Bericht::Wissen);
+        cmdVoorBeeld.Caption = "&" + LeesResString(Bericht::VoorbeeldTekst);
+        cmdToonSpel.Caption = LeesResString(Bericht::ToonSpel);
+        cmdGebruiken.Caption = "&" + LeesResString(Bericht::TekstOpslaan);
+        cmdSluiten.Caption = "&" + LeesResString(Bericht::Sluiten);
         zet_buiten_beeld(cmdFocus);
         centreer();
         // As wide as the preview, so that a text is cut where the preview would break it.
         txtKnipTekst.Move(2490, txtVoorbeeld.Top, txtVoorbeeld.Width, txtVoorbeeld.Height);
         lees_spellen();
-        for (int slag = kSlagen; slag >= 1; --slag)
+        for (int slag = kaart::kSlagen; slag >= 1; --slag)
             lstSlag.AddItem(std::to_string(slag));
-        zet_balk(kSlagen);
+        zet_balk(kaart::kSlagen);
         zet_alles_dicht();
     });
 }
@@ -141,9 +139,9 @@ void frmTavrin05::zet_alles_dicht() {
     for (const int plaats : kaart::kPlaatsen) {
         picKaart(plaats).Picture = Bas_Aftavrin::LaadPlaatje(gedeeld.kaartRugId);
         picKaart(plaats).AccessibleName = "";
-        lblKaartNummer(plaats).Caption = LeesResString(10060);
+        lblKaartNummer(plaats).Caption = LeesResString(Bericht::Nummer);
     }
-    for (int i = 0; i < kKaarten; ++i) {
+    for (int i = 0; i < kaart::kKaarten; ++i) {
         lblYesNo(i).Caption = std::to_string(i + 1);
         picYesNo(i).Picture = picNee.Picture();
     }
@@ -182,7 +180,7 @@ void frmTavrin05::lstSpellen_Click() {
         if (ontbreekt(stam + " aftavrin.txt", naam + " aftavrin.txt")) return;
         lees_speelrijen(stam + " aftavrin.txt");
         lstInformatie.Clear();
-        for (int nummer = 1; nummer <= kKaarten; ++nummer)
+        for (int nummer = 1; nummer <= kaart::kKaarten; ++nummer)
             lstInformatie.AddItem(std::to_string(nummer) + "|");
         zet_alles_dicht();
         lees_teksten(stam + " informatie.txt");
@@ -198,7 +196,7 @@ void frmTavrin05::lstSpellen_Click() {
 // Tells that a file of the deal is missing.
 bool frmTavrin05::ontbreekt(const std::string& bestand, const std::string& genoemd) {
     if (Kaarten::aanwezig(bestand)) return false;
-    std::string melding = replaced(LeesResString(10062), "~", genoemd);
+    std::string melding = replaced(LeesResString(Bericht::BestandNietGevonden), "~", genoemd);
     melding = replaced(replaced(melding, "+", gedeeld.spelMapKopie), "|", "\n");
     programma.platform.message_box(box_style::kInformation, Caption(), melding);
     cmdFocus.SetFocus();
@@ -250,7 +248,7 @@ void frmTavrin05::vscrSlag_Change() {
 void frmTavrin05::toon_slag(const std::string& rij) {
     gedeeld.delen = split(rij, "|");
     const int uitkomer = numeric_value(left(gedeeld.delen[0], 1));
-    lblUit.Caption = LeesResString(10059) + ":" + LeesResString(kaart::bericht_van_plaats(uitkomer));
+    lblUit.Caption = LeesResString(Bericht::Uit) + ":" + LeesResString(kaart::bericht_van_plaats(uitkomer));
     lblToonSlag.Caption = rij;
     for (const int plaats : kaart::kPlaatsen) {
         lblKaartNummer(plaats).FontBold = false;
@@ -259,7 +257,7 @@ void frmTavrin05::toon_slag(const std::string& rij) {
     lblKaartNummer(uitkomer).FontBold = true;
     lblKaartNummer(uitkomer).ForeColor = kBlauw;
     for (int i = 0, plaats = uitkomer; i < 4; ++i, plaats = kaart::volgende_plaats(plaats)) {
-        lblKaartNummer(plaats).Caption = LeesResString(10060) + ": " + std::to_string(EersteNummer + i);
+        lblKaartNummer(plaats).Caption = LeesResString(Bericht::Nummer) + ": " + std::to_string(EersteNummer + i);
     }
     // The pictures stay at their seats, only the numbers follow the order of play.
     for (const int plaats : kaart::kPlaatsen) {

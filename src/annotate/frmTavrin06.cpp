@@ -8,7 +8,6 @@ namespace {
 constexpr forms::Size kInner{7395, 6060};
 constexpr double kKaartBreedte = 1005;
 constexpr double kKaartHoogte = 1485;
-constexpr int kKleinePlaatjes = 100;  // what a small face's number is less than the card's code
 constexpr double kStartLinks = 1000;
 constexpr double kStap = 300;
 constexpr double kNoordBoven = 120;
@@ -48,9 +47,9 @@ void frmTavrin06::Form_Load() {
     Foutpad("frmTavrin06 - Form - Load", [&] {
         programma.maten.maxLetterGrootte = kMaxLetter;
         gedeeld.delen = split(gedeeld.spelNaam, " ");
-        Caption = LeesResString(10013) + " " + std::to_string(numeric_value(gedeeld.delen[1]));
+        Caption = LeesResString(Bericht::Spel) + " " + std::to_string(numeric_value(gedeeld.delen[1]));
         picBack.Move(static_cast<int>(Width - picBack.Width) / 2, static_cast<int>(Height - picBack.Height) / 2);
-        cmdTerug.Caption = "&" + LeesResString(10018);
+        cmdTerug.Caption = "&" + LeesResString(Bericht::Terug);
         for (int i = 1; i <= kaart::kKaartenPerKleur; ++i) {
             for (auto& hand : picKaart)
                 hand.Load(i).ZOrder();
@@ -69,7 +68,7 @@ void frmTavrin06::Form_Load() {
 }
 
 void frmTavrin06::leg_kaart(forms::PictureBox& plek, const std::string& code, double links, double boven) {
-    plek.Picture = Bas_Aftavrin::LaadPlaatje(kaart::nummer_van(code) + kaart::kCodeBasis - kKleinePlaatjes);
+    plek.Picture = Bas_Aftavrin::LaadPlaatje(kaart::nummer_van(code) + resources::plaatje::kKleineKaarten);
     plek.AccessibleName = kaart::titel(numeric_value(code));
     plek.Tag = code;
     plek.BorderStyle = 0;

@@ -12,10 +12,15 @@ namespace {
 constexpr Colour kZwart{0};
 constexpr Colour kRood{255};
 
-constexpr std::array<KleurGegevens, 4> kGegevens{{{34, 27, "Schoppen", 109, kZwart},
-                                                  {35, 28, "Harten", 108, kRood},
-                                                  {36, 29, "Ruiten", 107, kRood},
-                                                  {37, 30, "Klaveren", 106, kZwart}}};
+using resources::Bericht;
+namespace plaatje = resources::plaatje;
+
+constexpr std::array<KleurGegevens, 4> kGegevens{{
+    {Bericht::LetterSchoppen, Bericht::Schoppen, "Schoppen", plaatje::kSchoppen, kZwart},
+    {Bericht::LetterHarten, Bericht::Harten, "Harten", plaatje::kHarten, kRood},
+    {Bericht::LetterRuiten, Bericht::Ruiten, "Ruiten", plaatje::kRuiten, kRood},
+    {Bericht::LetterKlaveren, Bericht::Klaveren, "Klaveren", plaatje::kKlaveren, kZwart},
+}};
 
 }  // namespace
 
@@ -45,7 +50,7 @@ int rang_van_uitkomst(std::string_view woord) {
 }
 
 std::string titel(int kaartcode) {
-    if (kaartcode <= kCodeBasis || kaartcode >= kKaartRug) return {};
+    if (kaartcode <= kCodeBasis || kaartcode > kCodeBasis + kKaarten) return {};
     const int nummer = kaartcode - kCodeBasis;
     return std::string(gegevens(kleur_van(nummer)).naam) + " " +
            waarde_woorden()[static_cast<std::size_t>((nummer - 1) % kKaartenPerKleur)];

@@ -12,7 +12,7 @@ namespace Kaarten {
 
 // Bytes of one record of " informatie.txt", and the number of its records.
 inline constexpr int kRecordLengte = 532;
-inline constexpr int kAantalRecords = 52;
+inline constexpr int kAantalRecords = kaart::kKaarten;
 
 // Path of the chosen deal's file of that suffix, such as " contract.txt".
 std::string bestand(const Gedeeld& gedeeld, const std::string& achtervoegsel);

@@ -56,7 +56,7 @@ void frmTavrin01::Form_Load() {
         if (Bas_Aftavrin::BestandStatus(help) == 1) {
             windows().Help = [&platform = programma.platform, help] { platform.show_help(help); };
         }
-        gedeeld.kaartRugId = 2253;
+        gedeeld.kaartRugId = resources::plaatje::kKaartRug;
         zet_opschriften();
         zet_buiten_beeld(cmdFocus);
         centreer();
@@ -69,22 +69,22 @@ void frmTavrin01::Form_Load() {
 }
 
 void frmTavrin01::zet_opschriften() {
-    Caption = LeesResString(10001) + " " + LeesResString(10002);
+    Caption = LeesResString(Bericht::ProgrammaNaam) + " " + LeesResString(Bericht::ProgrammaVervolg);
     lblInfo.Caption = Caption();
-    lblCopyRight.Caption = LeesResString(3);
-    fraSpellen.Caption = LeesResString(4);
-    cmdWissen.Caption = "&" + LeesResString(5);
-    cmdTavrin.Caption = "&" + LeesResString(6);
-    cmdAfsluiten.Caption = "&" + LeesResString(7);
-    cmdDownLoaden.Caption = "&" + LeesResString(8);
-    chkSorteer.Caption = LeesResString(9);
-    cmdNieuwSpel.Caption = "&" + LeesResString(11);
-    cmdHerbeNoem.Caption = "&" + LeesResString(53);
-    cmdKaartenEditor.Caption = "&" + LeesResString(57);
-    cmdImportExport.Caption = "&" + LeesResString(75);
-    lblVersie.Caption = LeesResString(12) + " (" + std::to_string(ZANDOLIN_MAJOR) + "." +
+    lblCopyRight.Caption = LeesResString(Bericht::Copyright);
+    fraSpellen.Caption = LeesResString(Bericht::Spellen);
+    cmdWissen.Caption = "&" + LeesResString(Bericht::Wissen);
+    cmdTavrin.Caption = "&" + LeesResString(Bericht::Tavrin);
+    cmdAfsluiten.Caption = "&" + LeesResString(Bericht::Afsluiten);
+    cmdDownLoaden.Caption = "&" + LeesResString(Bericht::Downloaden);
+    chkSorteer.Caption = LeesResString(Bericht::SorteerHoogLaag);
+    cmdNieuwSpel.Caption = "&" + LeesResString(Bericht::NieuwSpel);
+    cmdHerbeNoem.Caption = "&" + LeesResString(Bericht::Herbenoem);
+    cmdKaartenEditor.Caption = "&" + LeesResString(Bericht::Editor);
+    cmdImportExport.Caption = "&" + LeesResString(Bericht::ImportExport);
+    lblVersie.Caption = LeesResString(Bericht::Versie) + " (" + std::to_string(ZANDOLIN_MAJOR) + "." +
                         std::to_string(ZANDOLIN_MINOR) + "." + std::to_string(ZANDOLIN_REVISION) + ") ";
-    lblDeMaker.Caption = LeesResString(10051);
+    lblDeMaker.Caption = LeesResString(Bericht::DeMaker);
     lblRVLX.Caption = "";
 }
 
@@ -109,7 +109,7 @@ void frmTavrin01::Form_Activate() {
         cmdNieuwSpel.Enabled = gevonden;
         cmdKaartenEditor.Enabled = gevonden;
         cmdImportExport.Enabled = true;
-        lblRVLX.Caption = gevonden ? std::string() : LeesResString(102);
+        lblRVLX.Caption = gevonden ? std::string() : LeesResString(Bericht::GeenRVLX);
         lblRVLX.ForeColor = gevonden ? kGroen : kRood;
         // These wait for a line to be chosen.
         cmdHerbeNoem.Enabled = false;
@@ -167,8 +167,8 @@ void frmTavrin01::cmdWissen_Click() {
         cmdHerbeNoem.Enabled = false;
         cmdTavrin.Enabled = false;
         filFiles.Path = programma.pakket(lstSpellen.Text());
-        const Answer antwoord = programma.platform.message_box(box_style::kQuestion, Caption(),
-                                                               replaced(LeesResString(10056), "~", lstSpellen.Text()));
+        const Answer antwoord = programma.platform.message_box(
+            box_style::kQuestion, Caption(), replaced(LeesResString(Bericht::SpelWissen), "~", lstSpellen.Text()));
         if (antwoord == Answer::Yes) {
             wis_spel();
         } else {
@@ -204,7 +204,7 @@ void frmTavrin01::cmdDownLoaden_Click() {
             return;
         }
         Visible = true;
-        programma.platform.message_box(box_style::kInformation, Caption(), LeesResString(10066));
+        programma.platform.message_box(box_style::kInformation, Caption(), LeesResString(Bericht::InstallatieStart));
         // One argument as a whole, its name included.
         programma.platform.open(installatie, "\"/p=" + programma.platform.program_folder() + "\"", kWerkmap);
         beeindig_programma();
@@ -219,7 +219,8 @@ bool frmTavrin01::haal_installatie(const std::string& bestand) {
 }
 
 void frmTavrin01::meld_geen_update() {
-    const std::string bericht = replaced(LeesResString(gedeeld.internetOk ? 10105 : 10067), "|", "\n");
+    const std::string bericht =
+        replaced(LeesResString(gedeeld.internetOk ? Bericht::GeenUpdateNaarWebsite : Bericht::GeenUpdate), "|", "\n");
     const int stijl = gedeeld.internetOk ? box_style::kInformationYesNo : box_style::kInformation;
     if (programma.platform.message_box(stijl, Caption(), bericht) != Answer::Yes) return;
     programma.platform.open(

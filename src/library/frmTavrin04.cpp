@@ -77,16 +77,16 @@ void frmTavrin04::stel_reeks_in(const Reeks& reeks) {
 
 void frmTavrin04::Form_Load() {
     Foutpad("frmTavrin04 - Form - Load", [&] {
-        Caption = LeesResString(53);
-        fraTavrin.Caption = LeesResString(6);
+        Caption = LeesResString(Bericht::Herbenoem);
+        fraTavrin.Caption = LeesResString(Bericht::Tavrin);
         const auto& hoofdscherm = dynamic_cast<frmTavrin01&>(programma.schermen.laad("frmTavrin01"));
-        lblOudNummer.Caption = LeesResString(54) + ": " + hoofdscherm.lstSpellen.Text();
-        fraHerbenoem.Caption = LeesResString(73);
-        lblSpelNummer.Caption = LeesResString(49) + ": QVT_" + LeesResString(13) + " ";
-        fraEigenNaam.Caption = LeesResString(74);
-        lblEigenSpelnummer.Caption = LeesResString(49) + ": " + LeesResString(13) + " ";
-        cmdHerbenoem.Caption = "&" + LeesResString(53);
-        cmdTerug.Caption = "&" + LeesResString(18);
+        lblOudNummer.Caption = LeesResString(Bericht::OudSpelnummer) + ": " + hoofdscherm.lstSpellen.Text();
+        fraHerbenoem.Caption = LeesResString(Bericht::AlleenHetNummer);
+        lblSpelNummer.Caption = LeesResString(Bericht::Spelnummer) + ": QVT_" + LeesResString(Bericht::Spel) + " ";
+        fraEigenNaam.Caption = LeesResString(Bericht::EigenSpelnummer);
+        lblEigenSpelnummer.Caption = LeesResString(Bericht::Spelnummer) + ": " + LeesResString(Bericht::Spel) + " ";
+        cmdHerbenoem.Caption = "&" + LeesResString(Bericht::Herbenoem);
+        cmdTerug.Caption = "&" + LeesResString(Bericht::Terug);
         geef_opschriften_ruimte();
         zet_buiten_beeld(cmdFocus);
         LeesAfTavrinSpellen();
@@ -203,7 +203,7 @@ void frmTavrin04::cmdHerbenoem_Click() {
             herbenoem(oud, nieuw);
             return;
         }
-        const std::string bericht = replaced(replaced(LeesResString(55), "+", nieuw), "~", oud);
+        const std::string bericht = replaced(replaced(LeesResString(Bericht::NummerBestaatAl), "+", nieuw), "~", oud);
         programma.platform.message_box(box_style::kInformation, Caption(), replaced(bericht, "|", "\n"));
         naar_nummer();
     });

@@ -47,20 +47,21 @@ void frmTavrin07::Form_Load() {
 }
 
 void frmTavrin07::zet_opschriften() {
-    Caption = LeesResString(75);
-    fraExporTeer.Caption = LeesResString(76) + " " + LeesResString(10001) + " " + LeesResString(10002);
-    fraImporteer.Caption = LeesResString(79);
+    Caption = LeesResString(Bericht::ImportExport);
+    fraExporTeer.Caption = LeesResString(Bericht::ExporteerVan) + " " + LeesResString(Bericht::ProgrammaNaam) + " " +
+                           LeesResString(Bericht::ProgrammaVervolg);
+    fraImporteer.Caption = LeesResString(Bericht::ImporteerVan);
     for (const Kant* kant : {&exporteer, &importeer}) {
-        kant->sorteer.Caption = LeesResString(10009);
-        kant->selecteer.Caption = LeesResString(86);
+        kant->sorteer.Caption = LeesResString(Bericht::SorteerHoogLaag);
+        kant->selecteer.Caption = LeesResString(Bericht::SelecteerAlles);
     }
-    lblUSBStick.Caption = LeesResString(77);
-    lblUSBDrive.Caption = LeesResString(78);
-    lblNaar.Caption = LeesResString(80);
-    cmdExporteer.Caption = "&" + LeesResString(84);
-    cmdImporteer.Caption = "&" + LeesResString(85);
-    cmdCheckVoorUSB.Caption = "&" + LeesResString(81);
-    cmdTerug.Caption = "&" + LeesResString(18);
+    lblUSBStick.Caption = LeesResString(Bericht::NaarUSBStick);
+    lblUSBDrive.Caption = LeesResString(Bericht::Geen);
+    lblNaar.Caption = LeesResString(Bericht::Naar);
+    cmdExporteer.Caption = "&" + LeesResString(Bericht::Exporteer);
+    cmdImporteer.Caption = "&" + LeesResString(Bericht::Importeer);
+    cmdCheckVoorUSB.Caption = "&" + LeesResString(Bericht::ZoekUSBStick);
+    cmdTerug.Caption = "&" + LeesResString(Bericht::Terug);
 }
 
 void frmTavrin07::Form_Activate() {
@@ -84,14 +85,14 @@ bool frmTavrin07::zoek_stick() {
         if (lower_case(regel).find(kMerkVanStick) == std::string::npos) continue;
         lblUSBDrive.Caption = regel;
         usbDrive = regel;
-        fraImporteer.Caption = LeesResString(79) + " " + regel;
+        fraImporteer.Caption = LeesResString(Bericht::ImporteerVan) + " " + regel;
         return true;
     }
     return false;
 }
 
 void frmTavrin07::meld_geen_stick() {
-    programma.platform.message_box(box_style::kInformation, Caption(), LeesResString(82));
+    programma.platform.message_box(box_style::kInformation, Caption(), LeesResString(Bericht::GeenUSBDrive));
 }
 
 std::string frmTavrin07::stick() const {
@@ -132,8 +133,8 @@ void frmTavrin07::lijst_Click(const Kant& kant) {
 
 void frmTavrin07::chkSelecteer_Click(const Kant& kant) {
     Foutpad(kant.plaatsen.selecteer, [&] {
-        const bool alles = kant.selecteer.Caption == LeesResString(86);
-        kant.selecteer.Caption = LeesResString(alles ? 87 : 86);
+        const bool alles = kant.selecteer.Caption == LeesResString(Bericht::SelecteerAlles);
+        kant.selecteer.Caption = LeesResString(alles ? Bericht::DeselecteerAlles : Bericht::SelecteerAlles);
         for (int i = 0; i < kant.lijst.ListCount(); ++i)
             kant.lijst.SetSelected(i, alles);
     });

@@ -17,7 +17,7 @@ inline constexpr Colour kEvenBlauw{0xFF0000};
 inline constexpr Colour kUitkomstVanPakket{0x80FF80};  // light green
 
 // Cards of a suit that a seat can hold: the labels 0 to 12 of an array.
-inline constexpr int kHoogste = 12;
+inline constexpr int kHoogste = kaart::kKaartenPerKleur - 1;
 
 // The four hands: a frame a seat, and in it four rows of thirteen labels, lblSchoppenNoord to lblKlaverenWest.
 struct KaartLabels {

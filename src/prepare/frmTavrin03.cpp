@@ -42,10 +42,10 @@ void frmTavrin03::stel_uiterlijk_in() {
         labels.fra(plaats).Caption = LeesResString(kaart::bericht_van_plaats(plaats));
         bieding.lblBieding(plaats - 1).Caption = LeesResString(kaart::bericht_van_plaats(plaats));
     }
-    lblInfo(0).Caption = LeesResString(14) + ":";
-    lblInfo(1).Caption = LeesResString(15) + ":";
-    lblSlagenNZ.Caption = LeesResString(16) + ":";
-    lblSlagenOW.Caption = LeesResString(17) + ":";
+    lblInfo(0).Caption = LeesResString(Bericht::Contract) + ":";
+    lblInfo(1).Caption = LeesResString(Bericht::Uitkomst) + ":";
+    lblSlagenNZ.Caption = LeesResString(Bericht::SlagenNoordZuid) + ":";
+    lblSlagenOW.Caption = LeesResString(Bericht::SlagenOostWest) + ":";
     lblSlagenTellerNZ.Caption = "0";
     lblSlagenTellerOW.Caption = "0";
     for (forms::Label* opschrift : {&lblLaatste, &lblContract, &lblUitkomstWind, &lblUitkomstKaart}) {
@@ -74,15 +74,15 @@ void frmTavrin03::stel_uiterlijk_in() {
 
 void frmTavrin03::Form_Load() {
     Foutpad("frmTavrin03 - Form - Load", [&] {
-        Caption = LeesResString(10025);
-        cmdTerug.Caption = "&" + LeesResString(10018);
+        Caption = LeesResString(Bericht::MaakSpelGereed);
+        cmdTerug.Caption = "&" + LeesResString(Bericht::Terug);
         zet_buiten_beeld(cmdFocus);
         cmdTerug.Move(90, Height - cmdTerug.Height - 90);
-        fraRVLX.Caption = LeesResString(10026);
-        fraTavrin.Caption = LeesResString(10006);
-        chkSorteerRVLX.Caption = LeesResString(10009);
-        chkSorteerTavrin.Caption = LeesResString(10009);
-        cmdOpslaan.Caption = "&" + LeesResString(10048);
+        fraRVLX.Caption = LeesResString(Bericht::SpellenUitRVLX);
+        fraTavrin.Caption = LeesResString(Bericht::Tavrin);
+        chkSorteerRVLX.Caption = LeesResString(Bericht::SorteerHoogLaag);
+        chkSorteerTavrin.Caption = LeesResString(Bericht::SorteerHoogLaag);
+        cmdOpslaan.Caption = "&" + LeesResString(Bericht::SpelOpslaan);
         labels.maak_rijen();
         MaakLabelSchoon();
         zet_raster_op();

@@ -79,8 +79,9 @@ void frmTavrin03::knip_tot_regels(const std::string& tekst) {
 bool frmTavrin03::lees_spel(const Bron& bron) {
     maak_scherm_leeg();
     if (!Kaarten::aanwezig(bron.stam + " Contract.txt")) {
-        programma.platform.message_box(box_style::kInformation, Caption(),
-                                       bron.geweigerd + replaced(LeesResString(10033), "|", bron.regeleinde));
+        programma.platform.message_box(
+            box_style::kInformation, Caption(),
+            bron.geweigerd + replaced(LeesResString(Bericht::NietCompleet), "|", bron.regeleinde));
         return false;
     }
     gedeeld.regel = Kaarten::eerste_regel(bron.stam + " Contract.txt");

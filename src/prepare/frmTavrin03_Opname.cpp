@@ -13,7 +13,8 @@ void frmTavrin03::klik_kaart(const prepare::Klik& klik, int index) {
         if (label.BackColor == kGespeeld) return;
         const bool in_slag = label.BackColor == kInSlag;
         if (gedeeld.uitkomstVast && (in_slag || klik.eerst_vast)) {
-            programma.platform.message_box(box_style::kInformation, LeesResString(10001), LeesResString(10106));
+            programma.platform.message_box(box_style::kInformation, LeesResString(Bericht::ProgrammaNaam),
+                                           LeesResString(Bericht::UitkomstBlijft));
             cmdFocus.SetFocus();
             return;
         }
@@ -35,7 +36,7 @@ void frmTavrin03::klik_kaart(const prepare::Klik& klik, int index) {
         if (MoetBekennen) {
             const std::string woord = LeesResString(kaart::gegevens(*kleur).woord);
             programma.platform.message_box(box_style::kInformation, Caption(),
-                                           replaced(LeesResString(10031), "~", woord));
+                                           replaced(LeesResString(Bericht::MoetBekennen), "~", woord));
             cmdFocus.SetFocus();
             return;
         }
@@ -79,7 +80,7 @@ void frmTavrin03::AanDeBeurt(std::string& wie) {
             }
         }
         programma.platform.message_box(box_style::kInformation, Caption(),
-                                       replaced(replaced(LeesResString(10032), "~", wie), "|", "\n"));
+                                       replaced(replaced(LeesResString(Bericht::JuisteVolgorde), "~", wie), "|", "\n"));
     });
 }
 
@@ -161,7 +162,7 @@ void frmTavrin03::sluit_slag(int slagrij, int& speler) {
     // No row follows the last trick, so its winner is counted here.
     Kaarten::SlagenTeller(*this);
     tel_slag_voor(SlagWinnaar);
-    programma.platform.message_box(box_style::kInformation, Caption(), LeesResString(10088));
+    programma.platform.message_box(box_style::kInformation, Caption(), LeesResString(Bericht::KlikOpOpslaan));
     cmdOpslaan.Enabled = true;
 }
 

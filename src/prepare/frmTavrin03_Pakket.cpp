@@ -34,8 +34,9 @@ void frmTavrin03::lstAfTavrin_Click() {
             tel_slag_voor(SlagWinnaar);
             cmdOpslaan.Enabled = true;
         } else {
-            programma.platform.message_box(box_style::kInformation, Caption(),
-                                           lstAfTavrin.Text() + " " + replaced(LeesResString(10033), "|", "\n"));
+            programma.platform.message_box(
+                box_style::kInformation, Caption(),
+                lstAfTavrin.Text() + " " + replaced(LeesResString(Bericht::NietCompleet), "|", "\n"));
         }
         gedeeld.uitkomstVast = true;
         cmdFocus.SetFocus();

@@ -19,7 +19,7 @@ void frmTavrin03::msfgTavrin_Click() {
             return;
         }
         msfgTavrin.Row = rij;
-        const std::string vraag = replaced(LeesResString(10047), "~", std::to_string(rij));
+        const std::string vraag = replaced(LeesResString(Bericht::KaartenTerugplaatsen), "~", std::to_string(rij));
         if (programma.platform.message_box(box_style::kQuestion, Caption(), vraag) == Answer::No) {
             cmdFocus.SetFocus();
             return;

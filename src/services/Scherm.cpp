@@ -3,7 +3,7 @@
 #include "forms/Control.h"
 #include "services/Bas_Aftavrin.h"
 
-std::string Scherm::LeesResString(int nummer) const { return Bas_Aftavrin::LeesResString(programma, nummer); }
+std::string Scherm::LeesResString(Bericht bericht) const { return Bas_Aftavrin::LeesResString(programma, bericht); }
 
 void Scherm::Form_KeyUp(int key_code) {
     Foutpad(plaatsen_.key_up, [&] {
@@ -36,7 +36,8 @@ void Scherm::centreer() {
 }
 
 void Scherm::wissel_opschrift(forms::CheckBox& keuze) const {
-    keuze.Caption = LeesResString(keuze.Caption == LeesResString(10009) ? 10010 : 10009);
+    keuze.Caption = LeesResString(keuze.Caption == LeesResString(Bericht::SorteerHoogLaag) ? Bericht::SorteerLaagHoog
+                                                                                           : Bericht::SorteerHoogLaag);
 }
 
 void Scherm::sorteer(const char* plaats, forms::CheckBox& keuze, const std::function<void()>& vul) {
@@ -50,7 +51,7 @@ void Scherm::sorteer(const char* plaats, forms::CheckBox& keuze, const std::func
 }
 
 void Scherm::toon_mappen(const MappenLijst& lijst, const std::string& map) {
-    lijst.keuze.Caption = LeesResString(lijst.keuze.Value == 1 ? 10010 : 10009);
+    lijst.keuze.Caption = LeesResString(lijst.keuze.Value == 1 ? Bericht::SorteerLaagHoog : Bericht::SorteerHoogLaag);
     if (map.empty()) return;
     std::string pad = map;
     Bas_Aftavrin::MaakPad(pad);

@@ -6,6 +6,7 @@
 
 #include "forms/CheckBox.h"
 #include "forms/Form.h"
+#include "resources/Bericht.h"
 #include "services/Foutpad.h"
 #include "services/MappenLijst.h"
 #include "services/Programma.h"
@@ -34,8 +35,8 @@ public:
     Programma& programma;
     Gedeeld& gedeeld;
 
-    // Text of a message by its number.
-    std::string LeesResString(int nummer) const;
+    using Bericht = resources::Bericht;
+    std::string LeesResString(Bericht bericht) const;
 
     template <class Body>
     void Foutpad(const std::string& plaats, Body&& body) {

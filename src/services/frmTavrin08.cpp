@@ -32,11 +32,12 @@ frmTavrin08::frmTavrin08(Programma& programma) : Scherm(programma, "frmTavrin08"
 }
 
 void frmTavrin08::Form_Load() {
-    Caption = LeesResString(95);
-    cmdAfsluiten.Caption = "&" + LeesResString(7);
-    cmdInterNet.Caption = "&" + LeesResString(97);
-    for (const int i : {0, 1, 2})
-        lblWatWaar(i).Caption = LeesResString(91 + i);
+    Caption = LeesResString(Bericht::FoutInProgramma);
+    cmdAfsluiten.Caption = "&" + LeesResString(Bericht::Afsluiten);
+    cmdInterNet.Caption = "&" + LeesResString(Bericht::NaarWebsite);
+    lblWatWaar(0).Caption = LeesResString(Bericht::FoutIn);
+    lblWatWaar(1).Caption = LeesResString(Bericht::Foutnummer);
+    lblWatWaar(2).Caption = LeesResString(Bericht::Foutnaam);
 
     lblFoutInfo(0).Caption = gedeeld.foutPlaats;
     lblFoutInfo(1).Caption = forms::property_text(gedeeld.foutNummer);
@@ -47,15 +48,15 @@ void frmTavrin08::Form_Load() {
     }
 
     if (gedeeld.internetOk) {
-        lblWatWaar(3).Caption = replaced(LeesResString(89), "|", "\n");
+        lblWatWaar(3).Caption = replaced(LeesResString(Bericht::FoutMelden), "|", "\n");
     } else {
-        lblWatWaar(3).Caption = replaced(LeesResString(90), "|", "\n");
-        lblWatWaar(5).Caption = LeesResString(96);
+        lblWatWaar(3).Caption = replaced(LeesResString(Bericht::GeenVerbinding), "|", "\n");
+        lblWatWaar(5).Caption = LeesResString(Bericht::AdresVoorMelding);
         cmdInterNet.Visible = false;
     }
     for (const int i : {3, 4, 5})
         lblWatWaar(i).Left = lblWatWaar(1).Left;
-    lblWatWaar(4).Caption = LeesResString(94);
+    lblWatWaar(4).Caption = LeesResString(Bericht::NietVrolijk);
 
     // The window is as wide as the longest line needs, as far as the screen goes.
     for (auto* labels : {&lblWatWaar, &lblFoutInfo}) {
@@ -101,7 +102,8 @@ void frmTavrin08::cmdInterNet_Click() {
 
 void frmTavrin08::cmdAfsluiten_Click() {
     timPic.Enabled = false;
-    programma.platform.message_box(box_style::kInformation, LeesResString(1), replaced(LeesResString(98), "|", "\n"));
+    programma.platform.message_box(box_style::kInformation, LeesResString(Bericht::ProgrammaNaam),
+                                   replaced(LeesResString(Bericht::MeldingInKlembord), "|", "\n"));
     beeindig_programma();
 }
 

@@ -11,8 +11,6 @@ namespace {
 constexpr double kHoogte = 3030;      // of the box with all nine rounds
 constexpr double kRondeHoogte = 260;  // what a dropped round takes off, less than the 270 between two rounds
 
-constexpr int kEersteSoortPlaatje = 106;  // strain digits 0 to 4 are the pictures 106 to 110
-
 void lees_bod(Scherm& scherm, LineReader& bestand, BiedingPaneel& paneel, int plaats, int ronde) {
     Gedeeld& gedeeld = scherm.gedeeld;
     gedeeld.regel = bestand.line();
@@ -26,7 +24,7 @@ void lees_bod(Scherm& scherm, LineReader& bestand, BiedingPaneel& paneel, int pl
     bod.Tag = delen[1];
     const std::string& cijfer = delen[1];
     if (cijfer.size() == 1 && cijfer[0] >= '0' && cijfer[0] <= '4') {
-        soort.Picture = Bas_Aftavrin::LaadPlaatje(kEersteSoortPlaatje + (cijfer[0] - '0'));
+        soort.Picture = Bas_Aftavrin::LaadPlaatje(resources::plaatje::kKlaveren + (cijfer[0] - '0'));
     }
     teken.Caption = delen[2];
     bod.Visible = !delen[0].empty();
@@ -43,7 +41,7 @@ void ZetPositieBieding(frmTavrin02& tafel) {
         paneel.fraBieding.Move(tafel.picBack.Width - paneel.fraBieding.Width - 256,
                                tafel.picKaart(kaart::kNoord)(1).Top - 128);
         for (int i = 0; i <= 3; ++i)
-            paneel.lblBieding(i).Caption = tafel.LeesResString(10019 + i);
+            paneel.lblBieding(i).Caption = tafel.LeesResString(kaart::bericht_van_plaats(i + 1));
         for (int ronde = 0; ronde < BiedingPaneel::kRondes; ++ronde) {
             paneel.lblNum(ronde).Visible = false;
             for (const int plaats : kaart::kPlaatsen) {

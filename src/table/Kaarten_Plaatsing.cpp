@@ -8,7 +8,7 @@ namespace Kaarten {
 
 namespace {
 
-constexpr int kKaarten = 13;
+using resources::Bericht;
 
 // Column of position p in the four rows of a closed side hand, of 4, 3, 3 and 3 cards.
 int kolom_van(int p) { return p <= 4 ? p : (p - 5) % 3 + 1; }
@@ -20,7 +20,7 @@ void zet_kaart(forms::PictureBox& kaart, double left, double top) {
 }
 
 void leg_rij(frmTavrin02& tafel, int plaats, double links, double boven) {
-    for (int p = 1; p <= kKaarten; ++p) {
+    for (int p = 1; p <= kaart::kKaartenPerHand; ++p) {
         forms::PictureBox& kaart = tafel.picKaart(plaats)(p);
         zet_kaart(kaart, p * tafel.gedeeld.kaartStap + links, boven);
         kaart.Visible = true;
@@ -28,7 +28,7 @@ void leg_rij(frmTavrin02& tafel, int plaats, double links, double boven) {
 }
 
 void leg_blok(frmTavrin02& tafel, int plaats, double links, double boven) {
-    for (int p = 1; p <= kKaarten; ++p) {
+    for (int p = 1; p <= kaart::kKaartenPerHand; ++p) {
         if (begint_rij(p)) boven += tafel.gedeeld.rijStap;
         forms::PictureBox& kaart = tafel.picKaart(plaats)(p);
         zet_kaart(kaart, kolom_van(p) * tafel.gedeeld.kaartStap + links, boven);
@@ -59,7 +59,7 @@ void open_hand(frmTavrin02& tafel, int plaats) {
 }
 
 void maak_zichtbaar(frmTavrin02& tafel, int plaats) {
-    for (int p = 1; p <= kKaarten; ++p)
+    for (int p = 1; p <= kaart::kKaartenPerHand; ++p)
         tafel.picKaart(plaats)(p).Visible = true;
 }
 
@@ -107,7 +107,7 @@ void toon_nummer(frmTavrin02& tafel) {
     gedeeld.delen = split(gedeeld.spelNaam, " ");
     if (gedeeld.delen.last() == 0) {
         // A name without a blank gets the word before it; the file names are built with the changed name from here on.
-        gedeeld.spelNaam = tafel.LeesResString(10013) + " " + gedeeld.spelNaam;
+        gedeeld.spelNaam = tafel.LeesResString(Bericht::Spel) + " " + gedeeld.spelNaam;
         gedeeld.delen = split(gedeeld.spelNaam, " ");
     }
     tafel.lblNummer.Caption = std::to_string(numeric_value(gedeeld.delen[1]));
@@ -127,7 +127,7 @@ void toon_contract(frmTavrin02& tafel) {
         gedeeld.troefLetter = tafel.LeesResString(kaart::gegevens(kleur).letter);
     }
     if (equal_ignoring_case(soort, "sa")) {
-        frmTavrin02::toon_symbool(tafel.picContract, kaart::kPlaatjeSansAtout);
+        frmTavrin02::toon_symbool(tafel.picContract, resources::plaatje::kSansAtout);
         gedeeld.troefLetter.clear();
     }
     tafel.lblInfo(0).Move(tafel.lblSpel.right() - tafel.lblInfo(0).Width, tafel.lblNummer.bottom() + 256);
@@ -182,7 +182,7 @@ void WestStartPositie(frmTavrin02& tafel) {
 void OverigeStartPositie(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - OverigeStartPositie", [&] {
         tafel.gedeeld.troefLetter.clear();
-        for (int p = 1; p <= kKaarten; ++p) {
+        for (int p = 1; p <= kaart::kKaartenPerHand; ++p) {
             for (const int plaats : kaart::kPlaatsen) {
                 tafel.picKaart(plaats)(p).Picture = Bas_Aftavrin::LaadPlaatje(tafel.gedeeld.kaartRugId);
                 tafel.picKaart(plaats)(p).BorderStyle = 0;
@@ -257,7 +257,7 @@ void ToonKaartenDummy(frmTavrin02& tafel) {
             if (wind != tafel.LeesResString(kaart::bericht_van_plaats(plaats))) continue;
             open_hand(tafel, plaats);
             // The closed hand of the opening leader shows twelve backs from now on.
-            tafel.picKaart(kaart::vorige_plaats(plaats))(kKaarten).Visible = false;
+            tafel.picKaart(kaart::vorige_plaats(plaats))(kaart::kKaartenPerHand).Visible = false;
         }
     });
 }

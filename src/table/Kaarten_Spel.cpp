@@ -8,9 +8,6 @@ namespace Kaarten {
 
 namespace {
 
-constexpr int kKaarten = 13;
-constexpr int kSlagen = 13;
-
 // Code of the opening lead; 0 for a value word or suit digit that is unknown.
 int code_van_uitkomst(const std::string& kaart) {
     const int rang = kaart::rang_van_uitkomst(trimmed(lower_case(middle(kaart, 2))));
@@ -29,7 +26,7 @@ int plaats_van_woord(const Scherm& scherm, const std::string& woord) {
 
 // Hides the card of that code; true if the hand shows it open.
 bool verberg_kaart(forms::ControlArray<forms::PictureBox>& hand, int code) {
-    for (int p = 1; p <= kKaarten; ++p) {
+    for (int p = 1; p <= kaart::kKaartenPerHand; ++p) {
         if (hand(p).Tag != std::to_string(code)) continue;
         hand(p).Visible = false;
         return true;
@@ -39,7 +36,7 @@ bool verberg_kaart(forms::ControlArray<forms::PictureBox>& hand, int code) {
 
 // A closed hand loses cards from its end, without telling which.
 void verberg_laatste_kaart(forms::ControlArray<forms::PictureBox>& hand) {
-    for (int p = kKaarten; p >= 1; --p) {
+    for (int p = kaart::kKaartenPerHand; p >= 1; --p) {
         if (!hand(p).Visible) continue;
         hand(p).Visible = false;
         return;
@@ -80,7 +77,7 @@ void PlaatdeUitkomst(frmTavrin02& tafel) {
 void PlaatsKaart(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - PlaatsKaart", [&] {
         Gedeeld& gedeeld = tafel.gedeeld;
-        if (gedeeld.slagRij >= kSlagen) {
+        if (gedeeld.slagRij >= kaart::kSlagen) {
             for (const int plaats : kaart::kPlaatsen)
                 tafel.picPlay(plaats).Visible = false;
             NoordZijnKaarten(tafel);

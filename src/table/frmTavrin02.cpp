@@ -14,12 +14,10 @@ constexpr double kKaartHoogte = 2340;
 constexpr double kSymbool = 210;
 constexpr double kTussenruimte = 128;
 
-constexpr int kSlagen = 13;
-constexpr int kKaarten = 52;
 constexpr double kEersteKolom = 900;
 constexpr double kKolomStap = 1200;
 constexpr double kWoordNaastSymbool = 270;
-constexpr double kRijTop[kSlagen] = {360, 615, 885, 1140, 1410, 1665, 1935, 2190, 2460, 2715, 2985, 3240, 3510};
+constexpr double kRijTop[kaart::kSlagen] = {360, 615, 885, 1140, 1410, 1665, 1935, 2190, 2460, 2715, 2985, 3240, 3510};
 
 constexpr int kTraagst = 3000;  // milliseconds a card, as the two below
 constexpr int kSnelst = 100;
@@ -47,19 +45,19 @@ frmTavrin02::frmTavrin02(Programma& programma)
               [](int i) {
                   return forms::Rect{kolom(i + 1), 90, 900, 195};
               }),
-      lblSlag(fraSlagen, "lblSlag", 1, kSlagen,
+      lblSlag(fraSlagen, "lblSlag", 1, kaart::kSlagen,
               [](int slag) {
                   return forms::Rect{slag < 10 ? 150.0 : 90.0, kRijTop[slag - 1], 750, 195};
               }),
       picGespeeld([this](int plaats) {
           return forms::ControlArray<forms::PictureBox>(
-              fraSlagen, std::string("pic") + kaart::kPlaatsLetter(plaats), 1, kSlagen, [plaats](int slag) {
+              fraSlagen, std::string("pic") + kaart::kPlaatsLetter(plaats), 1, kaart::kSlagen, [plaats](int slag) {
                   return forms::Rect{kolom(plaats), 390.0 + 260 * (slag - 1), kSymbool, kSymbool};
               });
       }),
       lblGespeeld([this](int plaats) {
           return forms::ControlArray<forms::Label>(
-              fraSlagen, std::string("lbl") + kaart::kPlaatsLetter(plaats), 1, kSlagen, [plaats](int slag) {
+              fraSlagen, std::string("lbl") + kaart::kPlaatsLetter(plaats), 1, kaart::kSlagen, [plaats](int slag) {
                   return forms::Rect{kolom(plaats) + kWoordNaastSymbool, kRijTop[slag - 1], 900, 255};
               });
       }),
@@ -102,12 +100,12 @@ void frmTavrin02::stel_uiterlijk_in() {
         symbool->Visible = false;
     }
     for (const auto& [slag, opschrift] : lblSlag) {
-        opschrift->Caption = LeesResString(52) + " " + std::to_string(slag) + ":";
+        opschrift->Caption = LeesResString(Bericht::Slag) + " " + std::to_string(slag) + ":";
         opschrift->Visible = false;
     }
     lblWind.each([](forms::Label& opschrift) { opschrift.FontBold = true; });
     for (const auto& [i, opschrift] : lblWind)
-        opschrift->Caption = LeesResString(19 + i);
+        opschrift->Caption = LeesResString(kaart::bericht_van_plaats(i + 1));
 
     const auto op_de_tafel = [](forms::Label& opschrift, double punten) {
         opschrift.FontSize = punten;
@@ -160,9 +158,9 @@ void frmTavrin02::Form_Load() {
         zet_buiten_beeld(cmdFocus);
         picBack.Height = 10275;
         picBack.Width = 19065;
-        gedeeld.kaartRugId = kaart::kKaartRug;
+        gedeeld.kaartRugId = resources::plaatje::kKaartRug;
         Kaarten::ZetVariabelenOpNul(gedeeld);
-        Caption = LeesResString(10001);
+        Caption = LeesResString(Bericht::ProgrammaNaam);
         WindowState = forms::WindowState::Maximised;
         const forms::Size screen = windows().host().screen_size();
         picBack.Move(static_cast<int>(screen.width - picBack.Width) / 2,
@@ -177,7 +175,7 @@ void frmTavrin02::Form_Load() {
         txtInformatie.Text = "";
         txtKnipTekst.Text = "";
         zet_opschriften();
-        for (int p = 2; p <= 13; ++p) {
+        for (int p = 2; p <= kaart::kKaartenPerHand; ++p) {
             for (const int plaats : kaart::kPlaatsen)
                 picKaart(plaats).Load(p);
         }
@@ -211,25 +209,25 @@ void frmTavrin02::Form_Load() {
         Kaarten::LeesVraag(*this);
 
         lees_snelheid();
-        lblSnelHeid.Caption = LeesResString(10068) + ":";
+        lblSnelHeid.Caption = LeesResString(Bericht::Afspeelsnelheid) + ":";
         lblSnelHeid.Refresh();
         zet_snelheid_op_zijn_plaats();
     });
 }
 
 void frmTavrin02::zet_opschriften() {
-    lblSpel.Caption = LeesResString(10013) + ":";
-    lblInfo(0).Caption = LeesResString(10014) + ":";
-    lblInfo(1).Caption = LeesResString(10015) + ":";
-    lblToonSlagen(0).Caption = LeesResString(10016) + ":";
-    lblToonSlagen(1).Caption = LeesResString(10017) + ":";
-    cmdTerug.Caption = "&" + LeesResString(10018);
-    cmdStart.Caption = "&" + LeesResString(10023);
-    cmdVerder.Caption = "&" + LeesResString(10024);
+    lblSpel.Caption = LeesResString(Bericht::Spel) + ":";
+    lblInfo(0).Caption = LeesResString(Bericht::Contract) + ":";
+    lblInfo(1).Caption = LeesResString(Bericht::Uitkomst) + ":";
+    lblToonSlagen(0).Caption = LeesResString(Bericht::SlagenNoordZuid) + ":";
+    lblToonSlagen(1).Caption = LeesResString(Bericht::SlagenOostWest) + ":";
+    cmdTerug.Caption = "&" + LeesResString(Bericht::Terug);
+    cmdStart.Caption = "&" + LeesResString(Bericht::Start);
+    cmdVerder.Caption = "&" + LeesResString(Bericht::Verder);
 }
 
 void frmTavrin02::zet_gespeelde_kaarten_klaar() {
-    for (int slag = 1; slag <= kSlagen; ++slag) {
+    for (int slag = 1; slag <= kaart::kSlagen; ++slag) {
         for (const int plaats : kaart::kPlaatsen) {
             picGespeeld(plaats)(slag).Visible = false;
             lblGespeeld(plaats)(slag).Visible = false;
@@ -279,7 +277,7 @@ void frmTavrin02::cmdStart_Click() {
         fraSlagen.Move(bieding.fraBieding.Left, bieding.fraBieding.bottom() + kTussenruimte);
         fraSlagen.Visible = true;
         txtInformatie.Width = txtVraag.Width();
-        txtInformatie.Move(txtVraag.Left, picKaart(kaart::kOost)(13).bottom() + kTussenruimte);
+        txtInformatie.Move(txtVraag.Left, picKaart(kaart::kOost)(kaart::kKaartenPerHand).bottom() + kTussenruimte);
         Kaarten::PlaatdeUitkomst(*this);
         Kaarten::ToonKaartenDummy(*this);
         Kaarten::ToonKaartenLeider(*this);
@@ -310,7 +308,7 @@ frmTavrin02::Tik frmTavrin02::timSpeelKaart_Timer() {
             if (gedeeld.aanDeBeurt > 4) gedeeld.aanDeBeurt = 1;
             if (gedeeld.kaartenInSlag > 3) nieuwe_slag();
             Kaarten::PlaatsKaart(*this);
-            if (gedeeld.kaartTeller < kKaarten) {
+            if (gedeeld.kaartTeller < kaart::kKaarten) {
                 tik = Tik::Verder;
             } else {
                 spel_is_uit();
@@ -341,7 +339,7 @@ void frmTavrin02::nieuwe_slag() {
         teller->Caption = std::to_string(numeric_value(teller->Caption()) + 1);
         teller->Refresh();
     }
-    if (gedeeld.slagRij >= kSlagen) {
+    if (gedeeld.slagRij >= kaart::kSlagen) {
         for (const int plaats : kaart::kPlaatsen)
             picPlay(plaats).Visible = false;
         txtVraag.Text = "";
