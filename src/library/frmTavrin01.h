@@ -13,6 +13,9 @@
 
 // The main screen: the list of packages, and the way to every other screen. Choosing a line publishes the deal's
 // folder and name to the rest of the program.
+//
+// filFiles.Path is the folder that is to be deleted: cmdWissen_Click writes it, wis_spel reads it. chkSorteer.Caption,
+// what its next click does, is the order's only memory: chkSorteer_Click writes and reads it.
 class frmTavrin01 final : public Scherm {
 public:
     explicit frmTavrin01(Programma& programma);

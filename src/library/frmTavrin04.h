@@ -12,6 +12,12 @@
 #include "services/Scherm.h"
 
 // Gives the deal chosen on the main screen another number: its folder and every text file in it get the new name.
+//
+// What controls remember, beside what they show:
+//
+//   control              holds                         written by    read by
+//   lblOudNummer.Caption the old name, behind ": "     Form_Load     cmdHerbenoem_Click
+//   lstSpelnummers       "999" down to "001"           vul_nummers   balk_verschoven
 class frmTavrin04 final : public Scherm {
 public:
     explicit frmTavrin04(Programma& programma);
@@ -33,7 +39,7 @@ public:
     forms::CommandButton cmdHerbenoem{*this, "cmdHerbenoem", {2580, 6150, 1335, 495}};
     forms::CommandButton cmdTerug{*this, "cmdTerug", {90, 6150, 1335, 495}};
     forms::CommandButton cmdFocus{*this, "cmdFocus", {0, 0, 300, 300}};
-    forms::ListBox lstSpelnummers{*this, "lstSpelnummers"};  // "999" down to "001"
+    forms::ListBox lstSpelnummers{*this, "lstSpelnummers"};
     forms::DirListBox dirAftavrin{*this, "dirAftavrin"};
     forms::FileListBox filSpellen{*this, "filSpellen"};
 

@@ -11,6 +11,14 @@
 
 // Copies deals to a USB stick and from it. The left half lists the deals of this program, the right half those in the
 // folder QVT_Spellen of the stick; a deal is copied as a folder with all its files.
+//
+// What controls remember, beside what they show:
+//
+//   control                    holds                               written by              read by
+//   lstDriveType, lstDriveNaam the roots of the drives, and a line zoek_stick              zoek_stick, stick
+//                              for each
+//   chkSelecteer...Caption     what its next click does            chkSelecteer_Click      the same
+//   chkSorteer...Caption       the same                            chkSorteer_Click        the same
 class frmTavrin07 final : public Scherm {
 public:
     explicit frmTavrin07(Programma& programma);

@@ -28,6 +28,22 @@ struct Bron;
 //   frmTavrin03_Raster.cpp   msfgTavrin_Click: taking the play back
 //   frmTavrin03_Ophalen.cpp  cmdOphalen_Click
 //   frmTavrin03_Opslaan.cpp  cmdOpslaan_Click
+//
+// What controls remember, beside what they show:
+//
+//   control                  holds                                  written by               read by
+//   labels: BackColor        where the card is (KaartLabels.h)      Lezen, Opname, Raster    klik_kaart, te_bekennen
+//   msfgTavrin: cell colour  who leads the trick of the row, and    sluit_slag, Lezen,       SlagenTeller, Raster,
+//                            so who won the one before              speel_rijen_na           stel_speelrijen_op
+//   msfgTavrin.Row           the row of the card played last        VolgendeKaart            neem_terug
+//   lstKlaar                 the cards of the running trick         lees_slag                bepaal_winnaar
+//   lstKlaar.Tag             letter of the seat to play             VolgendeKaart, Lezen,    klik_kaart, AanDeBeurt
+//                                                                   neem_terug
+//   lstAfTavrin.Tag          line of the package on the screen;     lstRVLX_Click,           msfgTavrin_Click
+//                            empty for a deal of the companion      lstAfTavrin_Click
+//   lblSlagenTellerNZ, -OW   the tricks won                         SlagenTeller, Raster     tel_slag_voor
+//   lstKnipTekst             lines of the texts cut so far          knip_tot_regels          Lezen
+//   lstOpslaan               the play rows to be written            stel_speelrijen_op       schrijf_speelbestanden
 class frmTavrin03 final : public Scherm {
 public:
     explicit frmTavrin03(Programma& programma);
@@ -68,7 +84,7 @@ public:
     forms::ListBox lstOpslaan{*this, "lstOpslaan"};
     forms::ListBox lstVoorWissen{*this, "lstVoorWissen"};
     forms::ListBox lstKnipTekst{*this, "lstKnipTekst"};
-    forms::ListBox lstKlaar{*this, "lstKlaar"};  // the running trick; its Tag is the letter of the seat to play
+    forms::ListBox lstKlaar{*this, "lstKlaar"};
     forms::ListBox lstAnderKleur{*this, "lstAnderKleur"};
     forms::ListBox lstOphalen{*this, "lstOphalen"};
     forms::ListBox lstMsfgTavrin{*this, "lstMsfgTavrin"};
@@ -133,7 +149,9 @@ private:
     void neem_terug(const prepare::Klik& klik, forms::Label& label);
     std::optional<kaart::Kleur> te_bekennen(const prepare::Klik& klik);
     void bepaal_winnaar();
-    void sluit_slag(int slagrij, int& speler);
+    int leg_kaart(int speler, const std::string& kaart, int index);
+    bool lees_slag(int slagrij);
+    int sluit_slag(int slagrij, int speler);
     int waarde_van(const std::string& kaart) const;
     std::optional<kaart::Kleur> kleur_van_letter(const std::string& letter) const;
     void tel_slag_voor(int kolom);

@@ -9,6 +9,9 @@
 
 // The report of a failure: names routine, number and text, puts them on the clipboard, and offers the maker's report
 // page. Leaving it ends the program. Its own routines have no failure path.
+//
+// picShow.Tag is the face on show, "1" with open eyes and "0" with closed ones: Form_Activate and timPic_Timer write
+// it, timPic_Timer reads it.
 class frmTavrin08 final : public Scherm {
 public:
     explicit frmTavrin08(Programma& programma);

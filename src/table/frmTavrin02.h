@@ -9,6 +9,19 @@
 #include "table/BiedingPaneel.h"
 
 // The table: replays a stored deal on a timer. One deal per life of the screen; leaving it unloads it.
+//
+// What controls remember, beside what they show; the play counters are shared variables:
+//
+//   control                  holds                              written by              read by
+//   picKaart(..)(..).Tag     code of an open card               keer_kaart              verberg_kaart
+//   picKaart(..)(..).Visible the seat still has the card        keer_kaart, PlaatsKaart verberg_laatste_kaart
+//   lblB..(..).Visible       the seat bid in that round         lees_bod                ToonBieding
+//   lijsten.lstAfTavrin      the play rows                      LeesKartenBestandIn     PlaatsKaart, nieuwe_slag
+//   lijsten, its other lists the hands                          VerdeelDeKaarten        .._ZijnKaarten, ToonKaarten..
+//   lstInformatie            the texts of the cards             LeesInformatie          PlaatsInformatie
+//   lstSnelheid              the speeds that vscrSnelHeid has   lees_snelheid           vscrSnelHeid_Change
+//   lblSlagenNZ, lblSlagenOW the tricks won                     nieuwe_slag, the end    the same
+//   cmdVerder.Visible        a text stops the play              PlaatsInformatie        cmdStart, cmdVerder
 class frmTavrin02 final : public Scherm {
 public:
     explicit frmTavrin02(Programma& programma);
