@@ -5,7 +5,7 @@
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "services/Bas_Aftavrin.h"
-#include "table/Knip_Tekst.h"
+#include "services/Knip_Tekst.h"
 
 // Lines that are empty leave their marker as it is.
 void frmTavrin05::ZetJaNeePic() {

@@ -3,13 +3,14 @@
 #include <QGuiApplication>
 
 #include "desktop/QtHost.h"
+#include "resources/Plaatje.h"
 
 namespace desktop {
 
 namespace {
 // The large faces and, behind them, the back.
-constexpr int kFirst = 2201;
-constexpr int kLast = 2253;
+constexpr int kFirst = resources::plaatje::kGroteKaarten + 1;
+constexpr int kLast = resources::plaatje::kKaartRug;
 constexpr int kMilliseconds = 15;  // between two of them
 }  // namespace
 

@@ -68,12 +68,11 @@ void TextBoxView::text_changed() {
     const int to = old.core_position(static_cast<int>(before.size()) - rest);
     user_did([this, &added, &now, from, to, caret = cursor()] {
         box_.form().windows().dispatch([&] {
-            box_.SelStart = from;
-            box_.SelLength = to - from;
+            forms::user::select_text(box_, from, to - from);
             forms::user::type(box_, added);
             // What was typed may be what stood there: the caret is behind it all the same.
             const BoxText text(box_.Text(), box_.MultiLine);
-            if (text.shown() == now) box_.SelStart = text.core_position(caret);
+            if (text.shown() == now) forms::user::select_text(box_, text.core_position(caret), box_.SelLength);
         });
     });
 }
@@ -84,8 +83,7 @@ void TextBoxView::selection_changed() {
     if (shown_text() != text.shown()) return;  // a text_changed() is about to come
     const TextRange range = shown_selection();
     const int start = text.core_position(range.start);
-    box_.SelStart = start;
-    box_.SelLength = text.core_position(range.start + range.length) - start;
+    forms::user::select_text(box_, start, text.core_position(range.start + range.length) - start);
 }
 
 bool TextBoxView::eventFilter(QObject* watched, QEvent* event) {
@@ -96,9 +94,9 @@ bool TextBoxView::eventFilter(QObject* watched, QEvent* event) {
 // The keys that the key filter gets although they put no character in.
 bool TextBoxView::key_is_dropped(int key) {
     if (key == Qt::Key_Backspace && box_.KeyPress) {
-        char typed = kBackspace;
-        window().act([&] { box_.form().windows().dispatch([&] { box_.KeyPress(typed); }); });
-        return typed == 0 || window().retired();
+        bool kept = true;
+        window().act([&] { kept = forms::user::press(box_, kBackspace); });
+        return !kept || window().retired();
     }
     if ((key == Qt::Key_Return || key == Qt::Key_Enter) && !box_.MultiLine) {
         user_did([this] { forms::user::type(box_, "\r\n"); });

@@ -5,8 +5,8 @@
 #include "prepare/Bron.h"
 #include "prepare/frmTavrin03.h"
 #include "services/Bas_Aftavrin.h"
+#include "services/Knip_Tekst.h"
 #include "table/Kaarten.h"
-#include "table/Knip_Tekst.h"
 
 using prepare::Bron;
 using prepare::kHoogste;

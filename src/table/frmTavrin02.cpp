@@ -156,8 +156,6 @@ void frmTavrin02::toon_kaart(forms::PictureBox& plek, int kaartcode) {
 void frmTavrin02::Form_Load() {
     Foutpad("frmTavrin02 - Form - Load", [&] {
         zet_buiten_beeld(cmdFocus);
-        picBack.Height = 10275;
-        picBack.Width = 19065;
         gedeeld.kaartRugId = resources::plaatje::kKaartRug;
         Kaarten::ZetVariabelenOpNul(gedeeld);
         Caption = LeesResString(Bericht::ProgrammaNaam);

@@ -1,4 +1,4 @@
-#include "table/Knip_Tekst.h"
+#include "services/Knip_Tekst.h"
 
 #include <string>
 
