@@ -4,7 +4,7 @@
 #include "platform/Paths.h"
 #include "prepare/Klik.h"
 #include "services/Bas_Aftavrin.h"
-#include "table/Kaarten.h"
+#include "table/KaartenTafel.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include "prepare/frmTavrin03.h"
 #include "services/Bas_Aftavrin.h"
 #include "services/Knip_Tekst.h"
-#include "table/Kaarten.h"
+#include "table/KaartenTafel.h"
 
 using prepare::Bron;
 using prepare::kHoogste;

@@ -1,7 +1,7 @@
 // The bidding box.
 #include "platform/Files.h"
 #include "services/Bas_Aftavrin.h"
-#include "table/Kaarten.h"
+#include "table/KaartenTafel.h"
 #include "table/frmTavrin02.h"
 
 namespace Kaarten {

@@ -1,7 +1,7 @@
 // The places of the hands, closed and open, and of the information beside them.
 #include "platform/Files.h"
 #include "services/Bas_Aftavrin.h"
-#include "table/Kaarten.h"
+#include "table/KaartenTafel.h"
 #include "table/frmTavrin02.h"
 
 namespace Kaarten {

@@ -1,7 +1,7 @@
 // The cards as they are played.
 #include "platform/Files.h"
 #include "services/Bas_Aftavrin.h"
-#include "table/Kaarten.h"
+#include "table/KaartenTafel.h"
 #include "table/frmTavrin02.h"
 
 namespace Kaarten {

@@ -2,7 +2,7 @@
 #include "platform/Files.h"
 #include "services/Bas_Aftavrin.h"
 #include "services/Knip_Tekst.h"
-#include "table/Kaarten.h"
+#include "table/KaartenTafel.h"
 #include "table/frmTavrin02.h"
 
 namespace Kaarten {

@@ -4,7 +4,7 @@
 #include "cards/Kaarten.h"
 #include "resources/PictureTable.h"
 #include "services/Bas_Aftavrin.h"
-#include "table/Kaarten.h"
+#include "table/KaartenTafel.h"
 
 namespace {
 
