@@ -17,6 +17,7 @@ void BoxLayout::set_measures(const Measures& measures) {
     if (measures == measures_) return;
     measures_ = measures;
     formats_.clear();
+    laid_.clear();
     documentChanged(0, 0, document()->characterCount());
 }
 
@@ -28,10 +29,17 @@ double BoxLayout::text_width() const {
     return (measures_.box_width / forms::kTwipsPerPixel - forms::kBoxMarginInPixels) * measures_.zoom;
 }
 
+// A block that kept its text keeps its lines: it only moves.
 void BoxLayout::documentChanged(int, int, int) {
     double top = 0;
-    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
-        top += lay_out(block, top);
+    std::size_t number = 0;
+    laid_.resize(static_cast<std::size_t>(document()->blockCount()));
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+        Laid& laid = laid_[number++];
+        if (block.layout()->lineCount() == 0 || laid.text != block.text()) laid = {block.text(), lay_out(block)};
+        block.layout()->setPosition({measures_.left, top});
+        top += laid.height;
+    }
     const QSizeF size(text_width(), top);
     if (size != size_) {
         size_ = size;
@@ -40,7 +48,7 @@ void BoxLayout::documentChanged(int, int, int) {
     emit update();
 }
 
-double BoxLayout::lay_out(const QTextBlock& block, double top) const {
+double BoxLayout::lay_out(const QTextBlock& block) const {
     const std::string text = from_qt(block.text());
     QList<QTextLayout::FormatRange> formats;
     for (std::size_t at = 0; at < text.size(); ++at) {
@@ -55,7 +63,7 @@ double BoxLayout::lay_out(const QTextBlock& block, double top) const {
     layout.setTextOption(option);
     layout.setFont(measures_.font);
     layout.setFormats(formats);
-    layout.setPosition({measures_.left, top});
+    layout.setCacheEnabled(true);  // its letters are shaped one by one, so once must do
     layout.beginLayout();
     const double blank = forms::character_width(' ', {measures_.points, false}) * measures_.zoom;
     double height = 0;

@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QTextFormat>
 #include <map>
+#include <vector>
 
 #include "forms/Label.h"
 
@@ -41,13 +42,19 @@ protected:
     void documentChanged(int from, int removed, int added) override;
 
 private:
+    // A block as it was laid out last.
+    struct Laid {
+        QString text;
+        double height = 0;
+    };
     double text_width() const;
-    // The height of the block, which begins at `top`.
-    double lay_out(const QTextBlock& block, double top) const;
+    // The height of the block.
+    double lay_out(const QTextBlock& block) const;
     const QTextCharFormat& format_of(char character) const;
 
     Measures measures_;
     mutable std::map<char, QTextCharFormat> formats_;  // of the characters that were asked for
+    std::vector<Laid> laid_;
     QSizeF size_;
 };
 
