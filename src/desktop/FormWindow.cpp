@@ -221,7 +221,9 @@ void FormWindow::act(const std::function<void()>& event) {
 
 bool FormWindow::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate && !retired_) host_.activated(*this);
-    return QWidget::event(event);
+    const bool taken = QWidget::event(event);
+    if (event->type() == QEvent::Paint) host_.painted();
+    return taken;
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

@@ -21,7 +21,9 @@ public:
     static constexpr Limits kProbe{std::chrono::seconds(3), std::chrono::seconds(3), 64 << 10, false};
     static constexpr Limits kInstaller{std::chrono::seconds(0), std::chrono::seconds(30), 200 << 20, true};
 
-    bool connected() const;
+    // Whether a network is up that leads beyond this machine. Asks nobody: what the desktop's own services know would
+    // take longer to load than the first window.
+    static bool connected();
     // Fetches an http or https address to the path; the file grows as the answer arrives. False for anything but a
     // whole answer with status 200 within the limits. The user's input waits meanwhile. Without limits they go by the
     // path: an ".exe" is the installer, anything else the probe.

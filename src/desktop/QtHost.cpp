@@ -148,6 +148,10 @@ void QtHost::raise_active() {
     active->activateWindow();
 }
 
+void QtHost::painted() {
+    if (FirstPainted) std::exchange(FirstPainted, {})();
+}
+
 // A window manager answers late: a window that was the active one for a moment, on the way to the one that was asked
 // for, was not brought in front by the user.
 void QtHost::activated(FormWindow& window) {

@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <QPoint>
 #include <functional>
+#include <future>
 #include <memory>
 #include <optional>
 #include <string>
@@ -36,6 +37,8 @@ public:
     std::function<void()> Ended;
     // What is called with the text of a failure that no routine caught.
     std::function<void(const std::string& what)> Failed;
+    // What is called once, when the first window has been painted.
+    std::function<void()> FirstPainted;
 
     // How an event is run.
     std::function<void(const std::function<void()>& event)> Run = [](const auto& event) { event(); };
@@ -50,6 +53,8 @@ public:
     void act(const std::function<void()>& event);
     // Runs it although an event is running: keys that the program itself sends.
     void act_within_event(const std::function<void()>& event);
+    // A window was painted.
+    void painted();
     // The window system made the window the active one.
     void activated(FormWindow& window);
 
@@ -66,6 +71,8 @@ private:
     void raise_active();
     void close_retired();
 
+    // The fonts are looked through while the program sets up its folders and asks the network.
+    std::future<void> font_ = std::async(std::launch::async, find_screen_font);
     Scale scale_;
     PictureCache pictures_;
     forms::Windows* windows_ = nullptr;

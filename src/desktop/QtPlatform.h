@@ -30,7 +30,7 @@ public:
     // Says so where nothing opens it.
     void show_help(const std::string& file) override;
 
-    bool connected() override { return network_.connected(); }
+    bool connected() override { return Network::connected(); }
     bool download(const std::string& url, const std::string& path) override { return network_.download(url, path); }
 
     std::vector<std::string> drives() override;

@@ -58,6 +58,7 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
 
     desktop::QtHost host;
+    const desktop::CardPreparer preparer(host);
     desktop::QtPlatform platform(host, program_folder(application));
     Programma programma(platform, host);
     host.attach(programma.windows);
@@ -69,7 +70,6 @@ int main(int argc, char** argv) {
         end_by_failure(failure.what());
         return EXIT_FAILURE;
     }
-    const desktop::CardPreparer preparer(host);
     const int status = programma.windows.ended() ? EXIT_SUCCESS : QApplication::exec();
     host.close_all();
     return status;
