@@ -15,10 +15,8 @@ constexpr int kMilliseconds = 15;  // between two of them
 
 CardPreparer::CardPreparer(QtHost& host) : host_(host), next_(kLast) {
     connect(this, &QTimer::timeout, this, [this] { prepare_next(); });
-    host_.FirstPainted = [this] { start(kMilliseconds); };
+    connect(&host.first_painted(), &QTimer::timeout, this, [this] { start(kMilliseconds); });
 }
-
-CardPreparer::~CardPreparer() { host_.FirstPainted = {}; }
 
 void CardPreparer::prepare_next() {
     host_.pictures().pixmap({next_, {}}, host_.scale().zoom(), qGuiApp->devicePixelRatio());

@@ -2,12 +2,14 @@
 
 #include <QElapsedTimer>
 #include <QPoint>
+#include <QTimer>
 #include <functional>
 #include <future>
 #include <memory>
 #include <optional>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "desktop/Look.h"
 #include "desktop/PictureCache.h"
@@ -37,13 +39,14 @@ public:
     std::function<void()> Ended;
     // What is called with the text of a failure that no routine caught.
     std::function<void(const std::string& what)> Failed;
-    // What is called once, when the first window has been painted.
-    std::function<void()> FirstPainted;
 
     // How an event is run.
     std::function<void(const std::function<void()>& event)> Run = [](const auto& event) { event(); };
     // False: the timers don't tick by themselves.
     bool own_time = true;
+
+    // Its timeout comes once, when the first window has been painted: what can wait for that waits for it.
+    QTimer& first_painted() { return first_painted_; }
 
     const Scale& scale() const { return scale_; }
     PictureCache& pictures() { return pictures_; }
@@ -68,6 +71,12 @@ public:
     void close_all();
 
 private:
+    // A window is never deleted while an event is under way in it.
+    struct DeleteLater {
+        void operator()(FormWindow* window) const;
+    };
+    using OwnedWindow = std::unique_ptr<FormWindow, DeleteLater>;
+
     void raise_active();
     void close_retired();
 
@@ -76,12 +85,14 @@ private:
     Scale scale_;
     PictureCache pictures_;
     forms::Windows* windows_ = nullptr;
-    std::unordered_map<const forms::Form*, FormWindow*> form_windows_;
-    std::vector<FormWindow*> retired_;
+    std::unordered_map<const forms::Form*, OwnedWindow> form_windows_;
+    std::vector<OwnedWindow> retired_;  // of forms that are gone, as long as they are seen
     FormWindow* raised_ = nullptr;
     QElapsedTimer raised_since_;
     const forms::Form* repainted_ = nullptr;  // the form that asked for it last
     QElapsedTimer repainted_since_;
+    QTimer first_painted_;
+    bool a_window_was_painted_ = false;
     bool within_event_ = false;
     mutable int title_height_;  // what the window manager adds above a window
 };
