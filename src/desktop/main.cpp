@@ -10,10 +10,10 @@
 #include "desktop/CardPreparer.h"
 #include "desktop/ProgramIcon.h"
 #include "desktop/QtHost.h"
-#include "desktop/QtPlatform.h"
 #include "desktop/Style.h"
 #include "desktop/Text.h"
 #include "desktop/Words.h"
+#include "desktop/system/QtPlatform.h"
 #include "platform/Paths.h"
 #include "services/Programma.h"
 
@@ -52,7 +52,7 @@ int main(int argc, char** argv) {
         QApplication::setWindowIcon(desktop::program_icon(QGuiApplication::primaryScreen()->depth()));
     });
     const desktop::CardPreparer preparer(host);
-    desktop::QtPlatform platform(host, program_folder(application));
+    desktop::system::QtPlatform platform(host, program_folder(application));
     Programma programma(platform, host);
     host.attach(programma.windows);
     host.Ended = [] { QCoreApplication::quit(); };

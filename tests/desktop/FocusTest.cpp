@@ -4,7 +4,7 @@
 #include "annotate/frmTavrin05.h"
 #include "annotate/frmTavrin06.h"
 #include "desktop/RealProgram.h"
-#include "desktop/View.h"
+#include "desktop/views/View.h"
 #include "forms/CheckBox.h"
 #include "forms/CommandButton.h"
 #include "forms/ListBox.h"
@@ -34,7 +34,7 @@ protected:
 
     std::string focused() {
         for (const forms::Control* control : window().form().controls()) {
-            const desktop::View* view = window().view(*control);
+            const desktop::views::View* view = window().view(*control);
             if (view && &view->widget() == window().focusWidget()) return control->name();
         }
         return "nothing";

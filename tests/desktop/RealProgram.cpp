@@ -20,7 +20,7 @@
 
 #include "app/Start.h"
 #include "desktop/Text.h"
-#include "desktop/View.h"
+#include "desktop/views/View.h"
 #include "forms/CommandButton.h"
 #include "forms/FlexGrid.h"
 #include "forms/ListBox.h"
@@ -57,7 +57,7 @@ void RealProgram::start_program() {
 
 QWidget& RealProgram::widget(const forms::Control& control) {
     const desktop::FormWindow* of_form = host.window(&control.form());
-    const desktop::View* view = of_form ? of_form->view(control) : nullptr;
+    const desktop::views::View* view = of_form ? of_form->view(control) : nullptr;
     if (!view) throw std::logic_error(control.name() + " has no widget");
     return view->widget();
 }

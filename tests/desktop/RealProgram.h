@@ -14,10 +14,10 @@
 #include <string>
 #include <vector>
 
-#include "desktop/Drives.h"
 #include "desktop/FormWindow.h"
 #include "desktop/QtHost.h"
-#include "desktop/QtPlatform.h"
+#include "desktop/system/Drives.h"
+#include "desktop/system/QtPlatform.h"
 #include "services/Programma.h"
 
 namespace forms {
@@ -29,7 +29,7 @@ class VScrollBar;
 }  // namespace forms
 
 // The real platform but for what a test has to say itself: the answers to boxes, the connection and the drives.
-class TestPlatform final : public desktop::QtPlatform {
+class TestPlatform final : public desktop::system::QtPlatform {
 public:
     using QtPlatform::QtPlatform;
 
@@ -38,7 +38,7 @@ public:
     std::vector<std::string> drives() override {
         return stick.empty() ? std::vector<std::string>{} : std::vector{stick};
     }
-    int drive_type(const std::string&) override { return static_cast<int>(desktop::DriveType::Removable); }
+    int drive_type(const std::string&) override { return static_cast<int>(desktop::system::DriveType::Removable); }
 
     bool real_boxes = false;
     bool online = false;
