@@ -131,34 +131,6 @@ TEST_F(Editor, StoresTextsAsTyped) {
     }
 }
 
-TEST_F(Editor, WipingAsksFirst) {
-    Package package = Package::west_wins_all();
-    package.texts = {{3, "Weg"}};
-    open(package);
-    choose(3);
-    program("answer no\nclick frmTavrin05.cmdWissen");
-    EXPECT_EQ(record(3), padded("3|Weg"));
-    program("answer yes\nclick frmTavrin05.cmdWissen");
-    EXPECT_EQ(program.interpreter.platform.boxes.back().text, "Informatie van Kaartnummer: 3 wissen?");
-    EXPECT_EQ(record(3), padded("3|"));
-    EXPECT_EQ(get("txtInformatie.Text"), "");
-    choose(4);
-    EXPECT_EQ(marker(3), "nee");
-}
-
-TEST_F(Editor, PreviewBreaksTheTextAndGivesItBackEdited) {
-    open(Package::west_wins_all());
-    choose(1);
-    program("text frmTavrin05.txtInformatie " + std::string(21, 'm') + " mm");
-    program("click frmTavrin05.cmdVoorBeeld");
-    EXPECT_EQ(get("txtVoorbeeld.Text"), std::string(21, 'm') + "\\r\\nmm\\r\\n");
-    EXPECT_EQ(program("click frmTavrin05.cmdGebruiken"), "refused: disabled");
-    program("text frmTavrin05.txtVoorbeeld Anders\nclick frmTavrin05.cmdSluiten");
-    EXPECT_EQ(get("txtInformatie.Text"), "Anders");
-    EXPECT_EQ(get("frmVoorbeeld.Visible"), "false");
-    EXPECT_EQ(record(1), padded("1|")) << "nothing is stored by it";
-}
-
 TEST_F(Editor, MissingFilesAreToldInWordsAndLeaveNoDealChosen) {
     open(Package::west_wins_all());
     std::filesystem::remove(program.path(std::string(kStem) + " Contract.txt"));
@@ -184,15 +156,6 @@ TEST_F(Editor, DamagedRecordsEndInTheReport) {
     EXPECT_EQ(program.shared("foutNummer"), "0") << "a blank line is taken over";
     choose(1);
     EXPECT_EQ(program.shared("foutPlaats"), "frmTavrin05 - picYesNo - Click");
-}
-
-TEST_F(Editor, RecordWithoutABarEndsInTheReport) {
-    open(Package::west_wins_all());
-    std::string records = program.read(std::string(kStem) + " informatie.txt");
-    records.replace(0, 2, "xx");
-    program.write(std::string(kStem) + " informatie.txt", records);
-    program("select frmTavrin05.lstSpellen 0");
-    EXPECT_EQ(program.shared("foutPlaats"), "frmTavrin05 - General - ZetJaNeePic");
 }
 
 TEST_F(Editor, MissingTextsAreMadeByTheFirstStore) {
@@ -332,13 +295,6 @@ TEST_F(Overview, DamagedDealsShowWhatTheyHold) {
     EXPECT_EQ(program.shared("foutNummer"), "0");
     EXPECT_EQ(get("picKaartNoord(2).Visible"), "true");
     EXPECT_EQ(get("picKaartNoord(3).Visible"), "false");
-}
-
-TEST_F(Overview, NameWithoutABlankEndsInTheReport) {
-    Package package = Package::west_wins_all();
-    package.name = "17";
-    open_overview(package);
-    EXPECT_EQ(program.shared("foutPlaats"), "frmTavrin06 - Form - Load");
 }
 
 }  // namespace

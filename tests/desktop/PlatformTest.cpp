@@ -7,8 +7,6 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QStorageInfo>
-#include <QTcpServer>
-#include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -16,52 +14,12 @@
 #include "desktop/CapsLock.h"
 #include "desktop/Drives.h"
 #include "desktop/KeyCodes.h"
-#include "desktop/Network.h"
 #include "desktop/QtHost.h"
 #include "desktop/QtPlatform.h"
 #include "desktop/RealProgram.h"
 #include "desktop/Text.h"
 
 namespace {
-
-// Answers every request with the same bytes and hangs up.
-class Server {
-public:
-    explicit Server(QByteArray answer) : answer_(std::move(answer)) {
-        server_.listen(QHostAddress::LocalHost);
-        QObject::connect(&server_, &QTcpServer::newConnection, &server_, [this] {
-            QTcpSocket* socket = server_.nextPendingConnection();
-            QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
-                socket->write(answer_);
-                socket->disconnectFromHost();
-            });
-        });
-    }
-    std::string address() const { return "http://127.0.0.1:" + std::to_string(server_.serverPort()) + "/bestand"; }
-
-private:
-    QByteArray answer_;
-    QTcpServer server_;
-};
-
-TEST(Network, OnlyAWholeAnswerIsADownload) {
-    struct {
-        const char* answer;
-        bool fetched;
-    } const rows[] = {{"HTTP/1.1 200 OK\r\nContent-Length: 4\r\n\r\nabcd", true},
-                      {"HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nabcd", false},
-                      {"HTTP/1.1 404 Not Found\r\nContent-Length: 4\r\n\r\nabcd", false},
-                      {"", false}};
-    QTemporaryDir folder;
-    const std::string path = desktop::from_qt(folder.filePath("bestand"));
-    desktop::Network network;
-    for (const auto& row : rows) {
-        const Server server(row.answer);
-        EXPECT_EQ(network.download(server.address(), path), row.fetched) << row.answer;
-    }
-    EXPECT_FALSE(network.download("ftp://127.0.0.1/bestand", path));
-    EXPECT_FALSE(network.download("http://127.0.0.1:1/bestand", path));
-}
 
 TEST(Drives, AreTypedByFileSystemAndByTheMarkOfTheirDisk) {
     using desktop::DriveType;
@@ -131,20 +89,6 @@ TEST_F(PlatformTest, AnotherInstanceIsOneOfTheSameFolder) {
     EXPECT_FALSE(platform.another_instance_runs());
     EXPECT_TRUE(second.another_instance_runs());
     EXPECT_FALSE(elsewhere.another_instance_runs());
-}
-
-TEST_F(PlatformTest, StartsAProgramWithItsOneArgument) {
-    QFile program(folder.filePath("installatie.exe"));
-    ASSERT_TRUE(program.open(QIODevice::WriteOnly));
-    program.write("#!/bin/sh\necho \"$#:$1\" > antwoord\n");
-    program.close();
-    const std::string place = desktop::from_qt(folder.path());
-    platform.open(place + "/INSTALLATIE.exe", "\"een map\"", place);
-    QFile answer(folder.filePath("antwoord"));
-    for (int round = 0; round < 100 && answer.size() == 0; ++round)
-        QTest::qWait(20);
-    ASSERT_TRUE(answer.open(QIODevice::ReadOnly));
-    EXPECT_EQ(answer.readAll(), "1:een map\n");
 }
 
 TEST(Keyboard, CapsLockIsAskedOfTheWindowSystem) {

@@ -39,19 +39,6 @@ TEST_F(WindowsTest, AWindowHasPlaceTitleAndColourOfItsForm) {
     EXPECT_EQ(widget(form.button)->geometry(), QRect(10, 10, 100, 30));
 }
 
-TEST_F(WindowsTest, AFormUnloadedInItsOwnClickLivesToTheEndOfIt) {
-    bool lived = false;
-    form.button.Click = [&] {
-        form.Unload();
-        form.button.Caption = "still there";
-        lived = true;
-    };
-    click(form.button);
-    EXPECT_TRUE(lived);
-    EXPECT_TRUE(windows.ended());
-    QTest::qWait(1);
-}
-
 TEST_F(WindowsTest, TheCloseBoxUnloadsOnlyOutsideARunningEvent) {
     auto& second = show<PlainForm>();
     QWidget* window = host.window(&second);
