@@ -57,16 +57,6 @@ TEST(Dispatch, HidingOrUnloadingTheActiveFormActivatesTheNextVisibleOne) {
     }
 }
 
-TEST(Dispatch, ActivationMayAskForMore) {
-    TestWindows test;
-    test.show({"A", "B"});
-    test.log.clear();
-    test.form("A").on_activate = [&] { test.windows.find("B")->Unload(); };
-    test.windows.dispatch([&] { test.form("A").Show(); });
-    EXPECT_EQ(test.log, (Log{"activate A", "query unload B"}));
-    EXPECT_EQ(test.windows.find("B"), nullptr);
-}
-
 TEST(Dispatch, FormUnloadedInItsOwnHandlerLivesToTheEnd) {
     TestWindows test;
     test.show({"A", "B"});
@@ -118,14 +108,6 @@ TEST(Dispatch, EndOfProgramSkipsEveryStatementAfterIt) {
     EXPECT_FALSE(went_on);
     test.windows.dispatch([&] { went_on = true; });
     EXPECT_FALSE(went_on);
-}
-
-TEST(Dispatch, ProgramEndsWithItsLastForm) {
-    TestWindows test;
-    test.show({"A"});
-    EXPECT_FALSE(test.windows.ended());
-    user::close(test.form("A"));
-    EXPECT_TRUE(test.windows.ended());
 }
 
 TEST(Dispatch, UserActionMakesItsFormTheActiveOne) {
@@ -189,17 +171,6 @@ TEST(ListBox, ClickIsRaisedByAChangeAndAlwaysByTheUser) {
     EXPECT_THROW(list.List(0), Fout);
 }
 
-TEST(ListBox, SearchIsPrefixOrExactAndIgnoresCase) {
-    TestWindows test;
-    test.show({"A"});
-    ListBox& list = test.form("A").list;
-    for (const char* line : {"QVT_Spel 0123", "QVT_Spel 012", "caf\xE9"}) list.AddItem(line);
-    EXPECT_EQ(list.find("qvt_spel 012", Match::Prefix), 0);
-    EXPECT_EQ(list.find("qvt_spel 012", Match::Exact), 1);
-    EXPECT_EQ(list.find("CAF\xC9", Match::Exact), 2);
-    EXPECT_EQ(list.find("Spel", Match::Prefix), -1);
-}
-
 TEST(ListBox, SortedListKeepsTextOrder) {
     TestWindows test;
     test.show({"A"});
@@ -250,18 +221,6 @@ TEST(TextBox, TypingPassesFilterAndLimitAndAssignmentGoesPast) {
     box.Text = "xxxxxxx";
     EXPECT_EQ(box.Text(), "xxxxxxx");
     EXPECT_EQ(changes, 5);
-}
-
-TEST(TextBox, LineBreakCountsTwoAndASingleLineHasNone) {
-    TestWindows test;
-    test.show({"A"});
-    TextBox& box = test.form("A").text;
-    user::type(box, "a\nb");
-    EXPECT_EQ(box.Text(), "ab");
-    box.MultiLine = true;
-    box.MaxLength = 4;
-    user::type_all(box, "a\r\nb\n");
-    EXPECT_EQ(box.Text(), "a\r\nb");
 }
 
 TEST(TextBox, FocusThatIsPassedOnKeepsItFromTyping) {

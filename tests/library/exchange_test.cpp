@@ -1,15 +1,8 @@
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/resource.h>
-#include <unistd.h>
 
 #include <chrono>
-#include <fstream>
 
-#include "base/Fout.h"
 #include "forms/ListBox.h"
-#include "platform/Files.h"
-#include "platform/Paths.h"
 #include "platform/SystemCalls.h"
 #include "services/Drives.h"
 #include "support/Program.h"
@@ -323,96 +316,6 @@ TEST_F(Exchange, SelectsAndDeselectsAHundredThousandLines) {
     program("click frmTavrin07.chkSelecteerExporteer");
     EXPECT_EQ(get("cmdExporteer.Enabled"), "false");
     EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(5)) << "not line by line over all lines";
-}
-
-TEST_F(Exchange, NamesAsLongAsTheyCanBe) {
-    const std::string name(255, 'x');
-    const std::string file = name.substr(0, 251) + ".txt";
-    program.write("stick/QVT_Spellen/" + name + "/" + file, "long");
-    put_in();
-    open();
-    choose("lstImporteer", {0});
-    program("click frmTavrin07.cmdImporteer");
-    EXPECT_EQ(program.read("aftavrin/" + name + "/" + file), "long");
-    EXPECT_EQ(program.shared("foutNummer"), "0");
-}
-
-TEST_F(Exchange, AStickThatCantBeWrittenIsReported) {
-    if (geteuid() == 0) GTEST_SKIP() << "everything can be written by root";
-    put_in();
-    open();
-    fs::create_directories(program.path("stick/QVT_Spellen/Spel 001"));
-    fs::permissions(program.path("stick/QVT_Spellen/Spel 001"), fs::perms::owner_read | fs::perms::owner_exec);
-    choose("lstExporteer", {0});
-    program("click frmTavrin07.cmdExporteer");
-    EXPECT_EQ(report(), "70 frmTavrin07 - cmdExporteer - Click");
-    fs::permissions(program.path("stick/QVT_Spellen/Spel 001"), fs::perms::owner_all);
-}
-
-// A limit on the size of files stands for the end of the disk: the same call fails at the same place.
-class FileSizeLimit {
-public:
-    explicit FileSizeLimit(rlim_t bytes) : handler_(signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit now{bytes, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &now);
-    }
-    ~FileSizeLimit() {
-        setrlimit(RLIMIT_FSIZE, &before_);
-        signal(SIGXFSZ, handler_);
-    }
-
-private:
-    void (*handler_)(int);
-    rlimit before_{};
-};
-
-TEST_F(Exchange, AFullStickIsReported) {
-    program.write("aftavrin/Spel 001/Spel 001 groot.txt", std::string(300000, 'g'));
-    put_in();
-    open();
-    program("click frmTavrin07.chkSelecteerExporteer");
-    {
-        const FileSizeLimit limit(150000);
-        program("click frmTavrin07.cmdExporteer");
-    }
-    EXPECT_EQ(report(), "61 frmTavrin07 - cmdExporteer - Click");
-    EXPECT_FALSE(program.exists("stick/QVT_Spellen/Spel 002"));
-}
-
-TEST(CopyFile, RefusesWhatIsNoPlainFileAndKeepsAFileCopiedOntoItself) {
-    Program program;
-    program.write("a", "text");
-    fs::create_hard_link(program.path("a"), program.path("same"));
-    fs::create_directory(program.path("folder"));
-    fs::create_symlink("a", program.path("link"));
-    const auto copy = [&](const char* from, const char* to) {
-        try {
-            copy_file(path_text(program.path(from)), path_text(program.path(to)));
-        } catch (const Fout& fout) {
-            return fout.nummer();
-        }
-        return 0;
-    };
-    EXPECT_EQ(copy("a", "same"), 0);
-    EXPECT_EQ(copy("a", "A"), 0);
-    EXPECT_EQ(program.read("a"), "text");
-    EXPECT_EQ(copy("a", "link"), 75);
-    EXPECT_EQ(copy("a", "folder"), 75);
-    EXPECT_EQ(copy("folder", "b"), 75);
-    EXPECT_EQ(copy("gone", "b"), 53);
-    EXPECT_EQ(copy("a", "gone/b"), 76);
-    EXPECT_FALSE(program.exists("b"));
-}
-
-TEST_F(Exchange, EveryWayBackLeavesOnlyTheMainScreen) {
-    put_in();
-    for (const char* way : {"click frmTavrin07.cmdTerug", "key frmTavrin07 escape", "close frmTavrin07"}) {
-        open();
-        EXPECT_EQ(program("screens"), "frmTavrin07 visible\nfrmTavrin01 hidden\n.");
-        program(way);
-        EXPECT_EQ(program("screens"), "frmTavrin01 visible\n.") << way;
-    }
 }
 
 }  // namespace

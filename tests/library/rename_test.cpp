@@ -169,24 +169,6 @@ TEST_F(Rename, APlainFileInTheWayIsNoDealAndStays) {
     EXPECT_TRUE(program.exists("aftavrin/" + kOld));
 }
 
-TEST_F(Rename, NamesAsLongAsTheyCanBe) {
-    const std::string longest(255, 'x');
-    std::filesystem::remove_all(program.path("aftavrin/" + kOld));
-    program.write("aftavrin/" + longest + "/" + longest.substr(0, 251) + ".txt", "no deal name in it");
-    open();
-    rename_to("9");
-    EXPECT_EQ(program.shared("foutNummer"), "0");
-    EXPECT_TRUE(program.exists("aftavrin/QVT_Spel 009/" + longest.substr(0, 251) + ".txt"));
-
-    program("close frmTavrin04");
-    std::filesystem::rename(program.path("aftavrin/QVT_Spel 009"), program.path("aftavrin/x"));
-    program("activate frmTavrin01\nclick frmTavrin01.chkSorteer");
-    program("select frmTavrin01.lstSpellen 0\nclick frmTavrin01.cmdHerbeNoem");
-    rename_to("9");  // 251 times twelve characters
-    EXPECT_EQ(report(), "75 frmTavrin04 - cmdHerbenoem - Click");
-    EXPECT_TRUE(program.exists("aftavrin/QVT_Spel 009/" + longest.substr(0, 251) + ".txt"));
-}
-
 TEST_F(Rename, TheNumberProposedComesFromThePreparationScreen) {
     const struct {
         std::vector<std::string> deals;
@@ -270,16 +252,6 @@ TEST_F(Rename, TheListIsOnlyForLooking) {
     EXPECT_EQ(get("lstAfTavrin.ListIndex"), "-1");
     EXPECT_EQ(program.get("frmTavrin04.ActiveControl"), "txtSpelNummer");
     EXPECT_EQ(program("keys"), "16 0 0\n35 0 1\n35 79 3\n16 0 2\n.");
-}
-
-TEST_F(Rename, EveryWayBackLeavesOnlyTheMainScreen) {
-    for (const char* way : {"click frmTavrin04.cmdTerug", "key frmTavrin04 escape", "close frmTavrin04"}) {
-        open();
-        EXPECT_EQ(program("screens"), "frmTavrin04 visible\nfrmTavrin01 hidden\nfrmTavrin03 hidden\n.");
-        program(way);
-        EXPECT_EQ(program("screens"), "frmTavrin01 visible\n.") << way;
-        EXPECT_EQ(program.get("frmTavrin01.lstSpellen.ListIndex"), "-1");
-    }
 }
 
 }  // namespace

@@ -2,13 +2,9 @@
 // place of a file.
 #include "platform/Files.h"
 
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <chrono>
-#include <csignal>
 
 #include "platform/CodePage.h"
 #include "platform/Paths.h"
@@ -123,34 +119,6 @@ TEST_F(Files, OfRecordsMayBeShortOrLong) {
     EXPECT_EQ(bytes_of("new"), "x  ");
 }
 
-// No file may grow beyond a few bytes as long as this lives: a full disk, for root too.
-class FullDisk {
-public:
-    FullDisk() {
-        signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit few{16, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &few);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
-
-private:
-    rlimit before_{};
-};
-
-TEST_F(Files, StayWholeWhereTheirReplacementFails) {
-    put("Oud.ini", "oud");
-    int failure = 0;
-    {
-        const FullDisk full;
-        failure = failure_of([&] { replace_file(in("oud.ini"), std::string(100000, 'x')); });
-    }
-    EXPECT_EQ(failure, 61);
-    EXPECT_EQ(bytes_of("Oud.ini"), "oud");
-    EXPECT_EQ(names(), Lines{"Oud.ini"}) << "nothing is left beside it";
-    EXPECT_EQ(failure_of([&] { replace_file(in("geen/x"), "x"); }), 76);
-}
-
 // Lets the n-th call fail; tells whether there was one.
 class FailingCall {
 public:
@@ -196,36 +164,6 @@ TEST_F(Files, AreReplacedWholeOrNotAtAllWhicheverCallFails) {
             ASSERT_LT(number, 100);
         }
     }
-}
-
-TEST_F(Files, SurviveAProgramThatIsKilledAtAnyCall) {
-    const std::string fresh(100000, 'n');
-    put("bron", fresh);
-    for (const auto& each : kReplacements) {
-        for (int number = 0, status = 1; status != 0; ++number) {
-            put("doel", "oud");
-            const pid_t child = fork();
-            if (child == 0) {
-                int calls = 0;
-                const system_calls::HookScope kill([&](system_calls::Call, const char*) {
-                    if (calls++ == number) _exit(1);
-                    return 0;
-                });
-                each.replace(in("bron"), in("doel"));
-                _exit(0);
-            }
-            waitpid(child, &status, 0);
-            EXPECT_TRUE(bytes_of("doel") == "oud" || bytes_of("doel") == fresh) << each.name << number;
-            EXPECT_EQ(files_of(in(""), "*"), (Lines{"bron", "doel"})) << "what it leaves is not listed";
-            ASSERT_LT(number, 100);
-        }
-    }
-    EXPECT_GT(names().size(), 2U);
-    put(".zandolin-map", "x");
-    remove_leftovers(in(""), FileTime::min());
-    EXPECT_GT(names().size(), 3U) << "none is that old";
-    remove_leftovers(in(""));
-    EXPECT_EQ(names(), (Lines{".zandolin-map", "bron", "doel"}));
 }
 
 TEST_F(Files, ThatMayNotBeWrittenAreNotReplaced) {
@@ -350,15 +288,6 @@ TEST_F(Files, FailWithANumberWhereSomethingElseStandsInTheirPlace) {
         EXPECT_EQ(failure_of([&] { copy_file(in("file"), path); }), each.write);
     }
     EXPECT_FALSE(fs::exists(in("copy")));
-}
-
-TEST_F(Files, ThatAreUnreadableFailWithoutPermission) {
-    if (geteuid() == 0) GTEST_SKIP() << "root may read everything";
-    put("secret", "x");
-    fs::permissions(folder / "secret", fs::perms::none);
-    EXPECT_EQ(failure_of([&] { read_file(in("secret")); }), 70);
-    EXPECT_EQ(failure_of([&] { LineReader{in("secret")}; }), 70);
-    EXPECT_EQ(failure_of([&] { write_file(in("secret"), "y"); }), 70);
 }
 
 TEST_F(Files, AreNeverOverwrittenByARename) {

@@ -30,36 +30,6 @@ protected:
     Program program;
 };
 
-TEST_F(Script, DrivesTheControlsOfAScreen) {
-    add_package();
-    expect({{"", ""},
-            {"# a comment", ""},
-            {"start", "ok"},
-            {"click frmTavrin01.cmdTavrin", "refused: disabled"},
-            {"select frmTavrin01.lstSpellen 0", "ok"},
-            {"get frmTavrin01.lstSpellen.ListIndex", "= 0"},
-            {"get frmTavrin01.lstSpellen.Text", "= QVT_Spel 012"},
-            {"get FRMTAVRIN01.lstspellen[0].SELECTED", "= true"},
-            {"get frmTavrin01.lblRVLX.ForeColor", "= 0x008000"},
-            {"click frmTavrin01.cmdTavrin", "ok"},
-            {"get frmTavrin02.picKaartNoord(13).Picture", "= 2253"},
-            {"get frmTavrin02.WindowState", "= 2"},
-            {"click frmTavrin02.cmdVerder", "refused: hidden"},
-            {"tick frmTavrin02.timSpeelKaart", "refused: timer off"},
-            {"scroll frmTavrin02.vscrSnelHeid 10", "ok"},
-            {"click frmTavrin02.cmdStart", "ok"},
-            {"tick frmTavrin02.timSpeelKaart", "ok"},
-            {"wait 1999", "ok"},
-            {"shared kaartteller", "= 2"},
-            {"wait 1", "ok"},
-            {"shared kaartTeller", "= 3"},
-            {"screens", "frmTavrin02 visible\n."},
-            {"close frmTavrin02", "ok"},
-            {"screens", "frmTavrin01 visible\n."},
-            {"clipboard", "= "}});
-    EXPECT_FALSE(program.interpreter.failed());
-}
-
 TEST_F(Script, TypesIntoBoxesAndGrid) {
     program.add_samples();
     expect({{"start", "ok"},
