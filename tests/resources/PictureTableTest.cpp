@@ -108,6 +108,7 @@ TEST(ScreenPictures, BlinkChangesTheEyesAlone) {
 }
 
 TEST(ScreenPictures, MarkersDifferInShapeAndColour) {
+    EXPECT_TRUE(colours(draw_named_picture("ja")).contains(Colour::rgb(28, 132, 62))) << "green tells of a text";
     const char* kMarkers[] = {"ja", "nee", "bezig"};
     for (const char* one : kMarkers) {
         for (const char* other : kMarkers) {
