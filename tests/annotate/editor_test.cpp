@@ -11,7 +11,7 @@
 #include "platform/Paths.h"
 #include "platform/SystemCalls.h"
 #include "script/Names.h"
-#include "support/Program.h"
+#include "support/Places.h"
 
 namespace {
 
@@ -253,6 +253,20 @@ TEST_F(Overview, ShowsTheDealInSmallFacesAndComesBackToTheEditor) {
     EXPECT_EQ(get("picKaartNoord(0).Visible"), "false");
     program("key frmTavrin06 escape");
     EXPECT_EQ(program("screens"), "frmTavrin05 visible\nfrmTavrin01 hidden\n.");
+}
+
+TEST_F(Overview, NothingLiesOnAnotherThereOrInTheEditorAndHandsStandAtTheirSeats) {
+    program.add_samples();
+    program("start\nclick frmTavrin01.cmdKaartenEditor");
+    const std::array<std::string, 4> hands{"picKaartNoord", "picKaartOost", "picKaartZuid", "picKaartWest"};
+    for (int deal = 0; deal < 5; ++deal) {
+        program("select frmTavrin05.lstSpellen " + std::to_string(deal));
+        EXPECT_EQ(on_each_other(program, "frmTavrin05"), std::vector<std::string>{});
+        program("click frmTavrin05.cmdToonSpel");
+        EXPECT_EQ(on_each_other(program, "frmTavrin06"), std::vector<std::string>{});
+        EXPECT_EQ(around_the_table(program, "frmTavrin06", hands), std::vector(hands.begin(), hands.end()));
+        program("key frmTavrin06 escape");
+    }
 }
 
 TEST_F(Overview, LongRowOfOostSlidesLeftOfTheFrameOnceTheTableWasOpened) {

@@ -10,6 +10,7 @@
 #include "prepare/frmTavrin03.h"
 #include "script/Names.h"
 #include "support/Bridge.h"
+#include "support/Places.h"
 
 namespace {
 
@@ -164,6 +165,17 @@ TEST_F(Recording, CompanionDealStandsReadyAfterItsLead) {
     EXPECT_EQ(get("fraBieding.Height"), std::to_string(3030 - 8 * 260));
     click(3, lead);
     EXPECT_EQ(last_box(), "U kunt de uitkomst niet verwijderen.");
+}
+
+TEST_F(Recording, NoCardLiesOnAnotherAndHandsStandAtTheirSeats) {
+    open(Deal::random(1, 3, 1));
+    const std::array<std::string, 4> frames{"fraNoord", "fraOost", "fraZuid", "fraWest"};
+    EXPECT_EQ(on_each_other(program, "frmTavrin03"), std::vector<std::string>{});
+    EXPECT_EQ(around_the_table(program, "frmTavrin03", frames), std::vector(frames.begin(), frames.end()));
+    for (const char* seat : {"N", "O", "Z", "W"}) {
+        for (int suit = 0; suit < 4; ++suit)
+            EXPECT_EQ(get(std::string("pic") + "SHRK"[suit] + seat + ".Picture"), std::to_string(109 - suit));
+    }
 }
 
 TEST_F(Recording, WrongSeatAndRevokeAreRefusedInWords) {

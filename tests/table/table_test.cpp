@@ -1,7 +1,7 @@
 // The table: what it shows at load, how the play runs, and where it stops.
 #include <gtest/gtest.h>
 
-#include "support/Program.h"
+#include "support/Places.h"
 
 namespace {
 
@@ -39,6 +39,8 @@ Package led_by(int seat) {
 TEST_F(Table, StandsAsADealShowsBeforePlay) {
     open(Package::west_wins_all());
     EXPECT_EQ(get("picKaartNoord(1).Left"), "3200");
+    EXPECT_EQ(get("picKaartZuid(1).Left"), "2800");
+    EXPECT_GE(std::stod(get("lblUitkomstKaart.Left")), std::stod(get("picUitkomst.Left")) + 14 * 15);
     EXPECT_EQ(get("picKaartWest(4).Left"), "2850");
     EXPECT_EQ(get("picKaartWest(13).Top"), "4800");
     EXPECT_EQ(get("picKaartOost(5).Left"), "9660");
@@ -67,6 +69,39 @@ TEST_F(Table, NumberOfADealWithoutABlankGetsTheWordBeforeIt) {
     EXPECT_EQ(get("lblNummer.Caption"), "17");
     EXPECT_EQ(program.shared("spelNaam"), "Spel 17");
     EXPECT_EQ(get("picContract.Visible"), "false") << "the files are looked for under the changed name";
+}
+
+using Names = std::vector<std::string>;
+constexpr const char* kTable = "frmTavrin02";
+const std::array<std::string, 4> kHands{"picKaartNoord", "picKaartOost", "picKaartZuid", "picKaartWest"};
+
+// Closed, with two hands open, in the middle of a trick, and all open at the end.
+TEST_F(Table, NoCardLiesOnAnotherAndHandsStandAtTheirSeats) {
+    program.add_samples();
+    program("start");
+    for (int deal = 0; deal < 5; ++deal) {
+        program("select frmTavrin01.lstSpellen " + std::to_string(deal) + "\nclick frmTavrin01.cmdTavrin");
+        const auto expect_places = [&] {
+            EXPECT_EQ(on_each_other(program, kTable), Names{});
+            EXPECT_EQ(around_the_table(program, kTable, kHands), Names(kHands.begin(), kHands.end()));
+        };
+        expect_places();
+        program("click frmTavrin02.cmdStart");
+        const std::array<std::string, 4> played{"picPlay(1)", "picPlay(2)", "picPlay(3)", "picPlay(4)"};
+        EXPECT_EQ(around_the_table(program, kTable, played), Names(played.begin(), played.end()));
+        expect_places();
+        while (card() < 52) {
+            program(get("cmdVerder.Visible") == "true" ? "click frmTavrin02.cmdVerder"
+                                                       : "tick frmTavrin02.timSpeelKaart");
+            if (card() == 15) expect_places();
+            if (card() % 4 != 1 || card() == 1) continue;
+            int empty = 0;
+            for (const std::string& name : played) empty += get(name + ".Picture").empty();
+            EXPECT_EQ(empty, 3) << "the trick before is gone";
+        }
+        expect_places();
+        program("key frmTavrin02 escape");
+    }
 }
 
 struct LeadCase {
