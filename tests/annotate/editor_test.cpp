@@ -74,26 +74,6 @@ TEST_F(Editor, TricksFormARing) {
     EXPECT_EQ(get("lblKaartNummer(4).Caption"), "Nummer: 5");
 }
 
-TEST_F(Editor, ClickOnCardMarkerOrNumberChoosesTheCardAndKeepsItsText) {
-    Package package = Package::west_wins_all();
-    package.texts = {{5, "Vijf~regel"}, {8, "Acht"}};
-    open(package);
-    program("click frmTavrin05.lblYesNo(4)");
-    EXPECT_EQ(get("vscrSlag.Value"), "11");
-    EXPECT_EQ(get("txtInformatie.Text"), "Vijf\\r\\nregel");
-    EXPECT_EQ(get("lblDezeKaart.Caption"), "Nummer: 5");
-    EXPECT_EQ(marker(5), "bezig");
-    EXPECT_EQ(get("ActiveControl"), "txtInformatie");
-    program("click frmTavrin05.picKaart(3)");
-    EXPECT_EQ(get("txtInformatie.Text"), "Acht") << "Zuid plays last to the trick that West leads";
-    EXPECT_EQ(marker(5), "ja");
-    EXPECT_EQ(marker(8), "bezig");
-    program("scroll frmTavrin05.vscrSlag 3");
-    EXPECT_EQ(get("txtInformatie.Text"), "");
-    EXPECT_EQ(get("fraKaartMetTekst.Tag"), "7") << "what is typed now is stored on the card chosen last";
-    EXPECT_EQ(get("cmdGebruiken.Enabled"), "false");
-}
-
 TEST_F(Editor, StoringNeedsAChosenCard) {
     open(Package::west_wins_all());
     const auto before = program.tree("aftavrin");
@@ -147,15 +127,27 @@ TEST_F(Editor, MissingFilesAreToldInWordsAndLeaveNoDealChosen) {
     EXPECT_NE(program.interpreter.platform.boxes.back().text.find("\n\nQVT_Spel 012 aftavrin.txt moet"), std::string::npos);
 }
 
-TEST_F(Editor, DamagedRecordsEndInTheReport) {
-    open(Package::west_wins_all());
-    std::string records = program.read(std::string(kStem) + " informatie.txt");
-    records.replace(0, kRecord, std::string(kRecord, ' '));
-    program.write(std::string(kStem) + " informatie.txt", records);
-    program("select frmTavrin05.lstSpellen 0");
-    EXPECT_EQ(program.shared("foutNummer"), "0") << "a blank line is taken over";
-    choose(1);
-    EXPECT_EQ(program.shared("foutPlaats"), "frmTavrin05 - picYesNo - Click");
+TEST(EditorAndOverview, ReportWhatIsDamagedWhereItIsUsed) {
+    const struct {
+        const char* name;
+        std::string record;  // the first
+        const char* used;
+        const char* place;
+    } rows[] = {{"QVT_Spel 012", std::string(kRecord, ' '), "click frmTavrin05.picYesNo(0)",
+                 "frmTavrin05 - picYesNo - Click"},
+                {"QVT_Spel 012", "xx", "", "frmTavrin05 - General - ZetJaNeePic"},
+                {"17", "1|", "click frmTavrin05.cmdToonSpel", "frmTavrin06 - Form - Load"}};
+    for (const auto& row : rows) {
+        Program program;
+        Package package = Package::west_wins_all();
+        package.name = row.name;
+        write_package(program, package);
+        program.install_companion();
+        const std::string file = "aftavrin/" + package.name + "/" + package.name + " informatie.txt";
+        program.write(file, program.read(file).replace(0, row.record.size(), row.record));
+        program("start\nclick frmTavrin01.cmdKaartenEditor\nselect frmTavrin05.lstSpellen 0\n" + std::string(row.used));
+        EXPECT_EQ(program.shared("foutPlaats"), row.place);
+    }
 }
 
 TEST_F(Editor, MissingTextsAreMadeByTheFirstStore) {

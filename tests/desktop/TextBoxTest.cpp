@@ -6,7 +6,6 @@
 #include <QTextEdit>
 #include <functional>
 
-#include "desktop/KeySender.h"
 #include "desktop/TestWindows.h"
 #include "desktop/Text.h"
 #include "forms/CommandButton.h"
@@ -163,27 +162,6 @@ TEST_F(TextBoxes, TheSelectionRunsBothWays) {
     QTest::keyClick(widget(form.number), Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(form.number.SelStart(), 0);
     EXPECT_EQ(form.number.SelLength(), 2);
-}
-
-TEST_F(TextBoxes, SentKeysArriveWithinTheRunningRoutine) {
-    const auto key = [](int code, bool up) {
-        KeyRecord record;
-        record.virtual_key = static_cast<std::uint16_t>(code);
-        record.flags = up ? 2 : 0;
-        return record;
-    };
-    program([&] {
-        form.number.Text = "123";
-        form.number.SetFocus();
-        form.number.SelStart = 1;
-        host.flush();
-        host.act_within_event([&] {
-            desktop::send_keys(*host.front()->focusWidget(),
-                               {key(0x10, false), key(0x23, false), key(0x23, true), key(0x10, true)});
-        });
-        EXPECT_EQ(form.number.SelLength(), 2);
-    });
-    EXPECT_EQ(widget_as<QLineEdit>(form.number).selectedText(), "23");
 }
 
 TEST_F(TextBoxes, ABoxThatPassesTheFocusOnCannotBeTypedIn) {

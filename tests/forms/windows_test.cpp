@@ -110,15 +110,6 @@ TEST(Dispatch, EndOfProgramSkipsEveryStatementAfterIt) {
     EXPECT_FALSE(went_on);
 }
 
-TEST(Dispatch, UserActionMakesItsFormTheActiveOne) {
-    TestWindows test;
-    test.show({"A", "B"});
-    test.log.clear();
-    test.form("A").button.Click = [&] { test.log.push_back("click"); };
-    user::click(test.form("A").button);
-    EXPECT_EQ(test.log, (Log{"activate A", "click"}));
-}
-
 TEST(User, CanDoNothingToWhatIsHiddenOrDisabled) {
     TestWindows test;
     test.show({"A"});
@@ -221,16 +212,6 @@ TEST(TextBox, TypingPassesFilterAndLimitAndAssignmentGoesPast) {
     box.Text = "xxxxxxx";
     EXPECT_EQ(box.Text(), "xxxxxxx");
     EXPECT_EQ(changes, 5);
-}
-
-TEST(TextBox, FocusThatIsPassedOnKeepsItFromTyping) {
-    TestWindows test;
-    test.show({"A"});
-    TestForm& form = test.form("A");
-    form.text.GotFocus = [&] { form.button.SetFocus(); };
-    user::type(form.text, "abc");
-    EXPECT_EQ(form.text.Text(), "");
-    EXPECT_EQ(form.focus(), &form.button);
 }
 
 TEST(Values, RaiseTheirEventOnAChangeAndRefuseWhatIsOutside) {

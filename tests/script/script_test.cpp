@@ -104,19 +104,6 @@ TEST_F(Script, TellsThePlatformWhatIsThere) {
     EXPECT_FALSE(platform.online);
 }
 
-TEST_F(Script, ResizesAndMinimises) {
-    add_package();
-    expect({{"start", "ok"},
-            {"resize frmTavrin01 8000 6000", "ok"},
-            {"get frmTavrin01.Width", "= 8000"},
-            {"window frmTavrin01 maximised", "ok"},
-            {"get frmTavrin01.Width", "= 28800"},
-            {"window frmTavrin01 minimised", "ok"},
-            {"get frmTavrin01.WindowState", "= 1"},
-            {"window frmTavrin01 normal", "ok"},
-            {"get frmTavrin01.Width", "= 8000"}});
-}
-
 TEST_F(Script, TellsWhatIsWrongWithACommand) {
     program("start");
     EXPECT_FALSE(program.interpreter.failed());
