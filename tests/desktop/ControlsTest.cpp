@@ -12,6 +12,7 @@
 #include "forms/Label.h"
 #include "forms/ListBox.h"
 #include "forms/PictureBox.h"
+#include "forms/TextBox.h"
 #include "forms/VScrollBar.h"
 
 namespace {
@@ -22,6 +23,7 @@ public:
         for (const char* line : {"Aas", "Boer", "Heer", "Harten", "Vrouw"})
             list.AddItem(line);
         many.MultiSelect = true;
+        area.MultiLine = true;
         for (int line = 0; line < 20; ++line)
             many.AddItem("Stok " + std::to_string(line));
         bar.Min = -1;
@@ -50,6 +52,7 @@ public:
     forms::PictureBox card1{*this, "card1", {150, 4500, 1500, 1500}};
     forms::PictureBox card2{*this, "card2", {600, 4500, 1500, 1500}};
     forms::PictureBox card3{*this, "card3", {1050, 4500, 1500, 1500}};
+    forms::TextBox area{*this, "area", {150, 6300, 2000, 900}};
     forms::FlexGrid grid{*this, "grid", {3300, 3600, 5000, 3600}, 14, 5};
 };
 
@@ -151,6 +154,46 @@ TEST_F(Controls, ControlsStandInTheOrderOfTheForm) {
         form.card3.Visible = false;
     });
     EXPECT_EQ(front(), widget(form.card2));
+}
+
+// Where in its widget something is painted that is no ground; 0 at the left or top, 1 at the right or foot.
+QRectF ink_of(QWidget& widget) {
+    const QImage image = widget.grab().toImage();
+    const QRgb ground = image.pixel(image.width() - 3, image.height() - 3);
+    QRect ink;
+    for (int y = 2; y < image.height() - 2; ++y) {
+        for (int x = 2; x < image.width() - 2; ++x) {
+            if (image.pixel(x, y) != ground) ink |= QRect(x, y, 1, 1);
+        }
+    }
+    return {ink.x() * 1.0 / image.width(), ink.y() * 1.0 / image.height(), ink.width() * 1.0 / image.width(),
+            ink.height() * 1.0 / image.height()};
+}
+
+TEST_F(Controls, WordsStandAtTheirSideAndPicturesHaveTheirBorder) {
+    using forms::Alignment;
+    for (const auto& [side, middle] :
+         {std::pair{Alignment::Left, 0.2}, {Alignment::Centre, 0.5}, {Alignment::Right, 0.8}}) {
+        program([&] {
+            form.label.Caption = "Aas";
+            form.label.Alignment = side;
+            form.area.Text = "Aas";
+            form.area.Alignment = side;
+        });
+        EXPECT_NEAR(ink_of(*widget(form.label)).center().x(), middle, 0.16) << middle;
+        EXPECT_NEAR(ink_of(*widget(form.area)).center().x(), middle, 0.16) << middle;
+    }
+    auto& table = widget_as<QTableWidget>(form.grid);
+    program([&] {
+        form.grid.Row = form.grid.Col = 2;
+        form.grid.SetCellAlignment(forms::FlexGrid::CellAlignment::Centre);
+    });
+    EXPECT_TRUE(table.item(2, 2)->textAlignment() & Qt::AlignHCenter);
+    EXPECT_TRUE(table.item(3, 3)->textAlignment() & Qt::AlignLeft);
+    const auto edge = [&] { return widget(form.card1)->grab().toImage().pixel(0, 50); };
+    const QRgb plain = edge();
+    program([&] { form.card1.BorderStyle = 1 - form.card1.BorderStyle; });
+    EXPECT_NE(edge(), plain);
 }
 
 TEST_F(Controls, AGridShowsItsCellsAndReportsEveryClick) {

@@ -37,6 +37,10 @@ TEST_F(WindowsTest, AWindowHasPlaceTitleAndColourOfItsForm) {
     EXPECT_EQ(window.size(), QSize(200, 100));
     EXPECT_EQ(window.palette().color(QPalette::Window), QColor(0, 128, 0));
     EXPECT_EQ(widget(form.button)->geometry(), QRect(10, 10, 100, 30));
+    for (const bool waits : {true, false}) {
+        program([&] { form.MousePointer = waits ? forms::MousePointer::Hourglass : forms::MousePointer::Default; });
+        EXPECT_EQ(window.cursor().shape(), waits ? Qt::WaitCursor : Qt::ArrowCursor);
+    }
 }
 
 TEST_F(WindowsTest, TheCloseBoxUnloadsOnlyOutsideARunningEvent) {

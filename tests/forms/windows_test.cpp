@@ -110,6 +110,20 @@ TEST(Dispatch, EndOfProgramSkipsEveryStatementAfterIt) {
     EXPECT_FALSE(went_on);
 }
 
+TEST(User, ActionMakesItsFormTheActiveOneFirst) {
+    TestWindows test;
+    test.show({"A", "B"});
+    TestForm& form = test.form("A");
+    form.button.Click = [&] { test.log.push_back("click"); };
+    test.log.clear();
+    user::click(form.button);
+    EXPECT_EQ(test.log, (Log{"activate A", "click"}));
+    form.on_activate = [&] { form.button.Enabled = false; };
+    user::activate(test.form("B"));
+    user::click(form.button);
+    EXPECT_EQ(test.log.back(), "activate A") << "the button is disabled by then";
+}
+
 TEST(User, CanDoNothingToWhatIsHiddenOrDisabled) {
     TestWindows test;
     test.show({"A"});
@@ -207,6 +221,8 @@ TEST(TextBox, TypingPassesFilterAndLimitAndAssignmentGoesPast) {
     EXPECT_EQ(box.Text(), "abcde");
     user::type_all(box, "z");
     EXPECT_EQ(box.Text(), "z");
+    EXPECT_EQ(box.SelStart(), 1);
+    EXPECT_EQ(box.SelLength(), 0);
     user::type_all(box, "");
     EXPECT_EQ(box.Text(), "");
     box.Text = "xxxxxxx";

@@ -20,15 +20,16 @@ protected:
 TEST_F(Ini, ReadsTheValueOfTheSection) {
     put("s.ini",
         "; Snelheid=1\r\nSnelheid=2\r\n\r\n[Ander]\nSnelheid=3\n[ standaard ]\n[STANDAARD]\r\n;Snelheid=4\r\n"
-        " snelheid = 500 \r\nSnelheid=6\r\nMap=\"a=b \"\r\nLeeg=\r\nLos='x\r\nzonder teken\r\n[Platform]\r\nLeeg=7");
+        " snelheid = 500 \r\nSnelheid=6\r\nMap=\"a=b \"\r\nLeeg=\r\nEnkel='b '\r\nLos='x\r\nzonder "
+        "teken\r\n[Platform]\r\nLeeg=7");
     const struct {
         const char* section;
         const char* key;
         const char* value;
     } cases[] = {{"Standaard", "Snelheid", "500"}, {"standaard", "SNELHEID", "500"}, {"Ander", "Snelheid", "3"},
                  {"Standaard", "Map", "a=b "},     {"Standaard", "Leeg", ""},        {"Standaard", "Los", "'x"},
-                 {"Standaard", "Geen", ""},        {"Geen", "Snelheid", ""},         {"Platform", "Leeg", "7"},
-                 {"Standaard", "zonder teken", ""}};
+                 {"Standaard", "Enkel", "b "},     {"Standaard", "Geen", ""},        {"Geen", "Snelheid", ""},
+                 {"Platform", "Leeg", "7"},        {"Standaard", "zonder teken", ""}};
     for (const auto& each : cases)
         EXPECT_EQ(read(each.section, each.key), each.value) << each.section << each.key;
     std::filesystem::remove(folder / "s.ini");

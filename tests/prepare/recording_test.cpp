@@ -167,6 +167,15 @@ TEST_F(Recording, CompanionDealStandsReadyAfterItsLead) {
     EXPECT_EQ(last_box(), "U kunt de uitkomst niet verwijderen.");
 }
 
+TEST_F(Recording, DealWithoutTrumpsForgetsThoseOfTheDealBefore) {
+    Deal::random(2, 3, std::nullopt).write(program, "Spel 013");
+    open(Deal::random(1, 3, 1));
+    const auto& screen = dynamic_cast<frmTavrin03&>(*program.programma.windows.find("frmTavrin03"));
+    EXPECT_EQ(screen.TroefKleur, "H");
+    program("select frmTavrin03.lstRVLX 1");
+    EXPECT_EQ(screen.TroefKleur, "");
+}
+
 TEST_F(Recording, NoCardLiesOnAnotherAndHandsStandAtTheirSeats) {
     open(Deal::random(1, 3, 1));
     const std::array<std::string, 4> frames{"fraNoord", "fraOost", "fraZuid", "fraWest"};
@@ -380,6 +389,9 @@ TEST_F(Recording, OverwritingAsksFirstAndLosesTheCardTexts) {
     EXPECT_EQ(program.read(stem + " vraag.txt"), "Anders?") << "under the spelling that is there";
     EXPECT_EQ(program.read(stem + " antwoord.txt").substr(0, 17), "Hoe speelt u dit?")
         << "the question's lines stand in it";
+
+    program("select frmTavrin03.lstAfTavrin 0\ntext frmTavrin03.txtVraag\nanswer yes\nclick frmTavrin03.cmdOpslaan");
+    EXPECT_EQ(program.read(stem + " vraag.txt"), "");
 }
 
 // Whatever the user was at, a refusal and a click in the grid take the focus away from it.
