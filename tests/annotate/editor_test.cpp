@@ -100,6 +100,7 @@ TEST_F(Editor, StoresTextsAsTyped) {
     for (const Case& each : cases) {
         choose(each.card);
         store(to_utf8(each.text));
+        EXPECT_EQ(get("txtSlag.Text"), std::to_string((each.card + 3) / 4)) << "its trick is on view";
         EXPECT_EQ(record(each.card), padded(std::to_string(each.card) + "|" + each.text));
     }
     EXPECT_EQ(program.read(std::string(kStem) + " informatie.txt").size(), 52 * kRecord);

@@ -57,6 +57,17 @@ TEST(Dispatch, HidingOrUnloadingTheActiveFormActivatesTheNextVisibleOne) {
     }
 }
 
+TEST(Dispatch, FormThatWasHiddenBecomesTheActiveOneAnew) {
+    TestWindows test;
+    test.show({"A"});
+    test.log.clear();
+    test.windows.dispatch([&] {
+        test.form("A").Hide();
+        test.form("A").Show();
+    });
+    EXPECT_EQ(test.log, (Log{"activate A"}));
+}
+
 TEST(Dispatch, FormUnloadedInItsOwnHandlerLivesToTheEnd) {
     TestWindows test;
     test.show({"A", "B"});

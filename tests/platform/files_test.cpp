@@ -46,6 +46,13 @@ TEST_F(Files, AreRewrittenUnderTheSpellingThatIsThere) {
     EXPECT_EQ(names("Map"), Lines{"Vraag.TXT"});
 }
 
+TEST_F(Files, OfAnExactNameAreFoundFirstBelowAnySpellingOfTheirFolder) {
+    for (const char* name : {"x.txt", "X.txt", "X.TXT"})
+        put(std::string("Map/") + name, name);
+    for (const char* name : {"x.txt", "X.txt", "X.TXT"})
+        EXPECT_EQ(read_file(in(std::string("mAP/") + name)), name);
+}
+
 TEST_F(Files, HaveNamesInTheCodePage) {
     write_file(in("\xC9\xE9n\x80.txt"), "x");
     EXPECT_EQ(names(), Lines{"Één€.txt"});
