@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/Text.h"
+#include "exchange/Texts.h"
 
 namespace exchange {
 
@@ -78,7 +79,7 @@ void read_deal(const PbnTag& tag, Board& board) {
 }
 
 void add_text(Board& board, const Place& place, const PbnToken& text) {
-    if (!text.text.empty()) board.texts.push_back({place, text.text, text.line});
+    if (!text.text.empty()) board.texts.push_back({place, with_symbols_of_pbn(text.text), text.line});
 }
 
 void join_texts(Board& board) {

@@ -2,9 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <sstream>
-
 #include "base/Text.h"
+#include "exchange/TestBoards.h"
 
 namespace {
 
@@ -16,104 +15,70 @@ const std::string kHead = "[Board \"7\"]\n[Dealer \"S\"]\n[Vulnerable \"EW\"]\n"
 const std::string kAuction = "[Auction \"S\"]\n1H Pass 4H AP\n";
 const std::string kBidding = "[Declarer \"S\"]\n[Contract \"4H\"]\n" + kAuction;
 
-std::vector<Board> read(const std::string& bytes) {
-    std::istringstream stream(bytes);
-    PbnReader reader(stream);
-    std::vector<Board> boards;
-    while (auto board = reader.next())
-        boards.push_back(*board);
-    return boards;
+std::vector<Board> read(const std::string& bytes) { return test::read<PbnReader>(bytes); }
+
+class PbnGame : public testing::TestWithParam<test::Told> {};
+
+TEST_P(PbnGame, IsReadAndTold) {
+    const auto boards = read(GetParam().bytes);
+    ASSERT_EQ(boards.size(), 1U);
+    EXPECT_EQ(test::told(boards[0]), GetParam().expected);
 }
-
-Board read_one(const std::string& bytes) {
-    const auto boards = read(bytes);
-    EXPECT_EQ(boards.size(), 1U);
-    return boards.empty() ? Board{} : boards[0];
-}
-
-// All that a test looks at, in one text: contract and declarer, cards, texts, notes, error.
-std::string told(const Board& board) {
-    std::string text = board.contract     ? text_of(*board.contract) + letter_of(board.contract->declarer)
-                       : board.passed_out ? "out"
-                                          : "-";
-    text += " " + std::to_string(board.play ? board.play->cards.size() : 0);
-    for (const PlacedText& placed : board.texts) {
-        const char* const where = placed.place.kind == Place::Kind::Question ? "Q"
-                                  : placed.place.kind == Place::Kind::Answer ? "A"
-                                                                             : "C";
-        text += std::string(" ") + where + (placed.place.card > 0 ? std::to_string(placed.place.card) : "") + "=" +
-                replaced(placed.text, "\n", "/");
-    }
-    for (const Remark& note : board.notes)
-        text += " (" + note.text + ")";
-    if (board.unfit) text += " <" + board.unfit->text + ">";
-    if (board.error) text += " !" + std::to_string(board.error->line) + ": " + board.error->text;
-    return text;
-}
-
-struct Game {
-    const char* name;
-    std::string bytes;
-    std::string expected;
-};
-
-class PbnGame : public testing::TestWithParam<Game> {};
-
-TEST_P(PbnGame, IsReadAndTold) { EXPECT_EQ(told(read_one(GetParam().bytes)), GetParam().expected); }
 
 INSTANTIATE_TEST_SUITE_P(
     Table, PbnGame,
     testing::Values(
-        Game{"DealAlone", kHead, "- 0"},
-        Game{"ResultWithoutAuction", kHead + "[Declarer \"S\"]\n[Contract \"3NTX\"]\n[Result \"9\"]\n", "3NXS 0"},
-        Game{"AuctionAlone", kHead + kAuction, "4HS 0"}, Game{"AuctionAndTags", kHead + kBidding, "4HS 0"},
-        Game{"AllPassInTwoWords", kHead + "[Auction \"S\"]\n1H pass 4H all pass\n", "4HS 0"},
-        Game{"MarksAndGlyphs", kHead + "[Auction \"S\"]\n1H! $2 Pass? 4H=1= + AP *\n[Note \"1:naar de manche\"]\n",
-             "4HS 0 Q=4H: naar de manche"},
-        Game{"PassTooMany", kHead + "[Auction \"S\"]\n1H P 4H P P P P\n",
-             "4HS 0 (passes behind the end of the auction are left out)"},
-        Game{"OpeningPassesLeftOut", kHead + "[Declarer \"N\"]\n[Contract \"4H\"]\n[Auction \"S\"]\n1H P 4H AP\n",
-             "4HN 0 (2 opening passes were left out and are put back)"},
-        Game{"DoublingDiffers", kHead + "[Declarer \"S\"]\n[Contract \"4H\"]\n[Auction \"S\"]\n1H P 4H X AP\n",
-             "4HXS 0 (the auction's doubling holds, not the tag's)"},
-        Game{"Unfinished", kHead + "[Declarer \"S\"]\n[Contract \"4H\"]\n[Auction \"S\"]\n1H P *\n",
-             "4HS 0 (the auction is not finished; the contract's tag holds)"},
-        Game{"OtherDealer", kHead + "[Auction \"E\"]\n1H P 4H AP\n",
-             "4HE 0 (the auction begins with E, not with the dealer's tag)"},
-        Game{"PassedOut", kHead + "[Auction \"S\"]\nP P P P\n", "out 0"},
-        Game{"TagsSayOtherwise", kHead + "[Declarer \"S\"]\n[Contract \"5C\"]\n" + kAuction,
-             "5CS 0 !7: the auction ends in 4H by S, the tags say 5C by S"},
-        Game{"IllegalBid", kHead + "[Auction \"S\"]\n4H P 3H AP\n", "- 0 !5: call 3 (3H): not above 4H"},
-        Game{"IrregularCall", kHead + "[Auction \"S\"]\n1H ^I 1D\n", "- 0 !6: an irregular call: ^I"},
-        Game{"Redoubled", kHead + "[Declarer \"S\"]\n[Contract \"5DR\"]\n", "5DXXS 0"},
-        Game{"ColumnsFromTheLeader", kHead + kBidding + "[Play \"W\"]\nDT D2 DK D6\nD9 DA D5 DJ\n*\n", "4HS 8"},
-        Game{"LeaderOfTheTrickFirst", kHead + kBidding + "[Play \"W\"]\nDT D2 DK D6\nD5 DJ D9 DA\n*\n",
-             "4HS 8 (the cards of the play stand out of their columns)"},
-        Game{"WrongSeatInTheTag", kHead + kBidding + "[Play \"N\"]\nDT D2 DK D6\n*\n",
-             "4HS 4 (the play is led by another seat than its tag says)"},
-        Game{"TurnedByOneSeat", kHead + kBidding + "[Play \"N\"]\nD2 DK D6 DT\n*\n",
-             "4HS 0 !9: the play does not fit the hands, or is not led from declarer's left"},
-        Game{"Gap", kHead + kBidding + "[Play \"W\"]\nDT D2 - D6\nD9 DA D5 DJ\n*\n",
-             "4HS 2 (the play has a gap behind card 2; the rest is left out)"},
-        Game{"Claimed", kHead + kBidding + "[Play \"W\"]\nDT D2 DK D6\n- - D5 -\n*\n", "4HS 5"},
-        Game{"Revoke", kHead + kBidding + "[Play \"W\"]\nDT D2 DK C8\n*\n",
-             "4HS 0 !10: card 4 (C8): S does not follow suit"},
-        Game{"Comments",
-             "{Wat nu?}\n" + kHead + kBidding +
-                 "[Play \"W\"]\n{Kijk.} DT {Een tien.\n\nOf niet?} D2 DK=1= D6\n* {Gedaan.}\n" +
-                 "[Note \"1:hoog\"]\n{Klaar}\n",
-             "4HS 4 Q=Wat nu?/Kijk. C1=Een tien.//Of niet? C3=hoog A=Gedaan./Klaar"},
-        Game{"CommentAtACall", kHead + "[Auction \"S\"]\n{Vooraf} 1H {Vijf harten} P 4H AP\n",
-             "4HS 0 Q=Vooraf/1H: Vijf harten"},
-        Game{"CommentsWithoutPlay", kHead + kBidding + "{Wat bedoelt Noord?}\n; En Zuid?\n",
-             "4HS 0 Q=Wat bedoelt Noord?/En Zuid?"},
-        Game{"TwoUnknownHands", "[Deal \"N:A32.K54.A32.K432 - QJT.QJT98.QJ6.Q8 -\"]\n",
-             "- 0 <more than one hand is unknown>"},
-        Game{"EndPosition", "[Deal \"N:A.K.. K.A.. Q.Q.. 9.7..\"]\n",
-             "- 0 (an end position is left out) <an end position>"},
-        Game{"CardTwice", "[Deal \"N:A32.K54.A32.K432 K54.A32.K54.A765 QJT.QJT98.QJ6.A8 9876.76.T987.JT9\"]\n",
-             "- 0 !1: CA is held twice"},
-        Game{"NoDeal", "[Board \"1\"]\n[Contract \"4H\"]\n[Declarer \"S\"]\n", "- 0 <no deal>"}),
+        test::Told{"DealAlone", kHead, "- 0"},
+        test::Told{"ResultWithoutAuction", kHead + "[Declarer \"S\"]\n[Contract \"3NTX\"]\n[Result \"9\"]\n", "3NXS 0"},
+        test::Told{"AuctionAlone", kHead + kAuction, "4HS 0"}, test::Told{"AuctionAndTags", kHead + kBidding, "4HS 0"},
+        test::Told{"AllPassInTwoWords", kHead + "[Auction \"S\"]\n1H pass 4H all pass\n", "4HS 0"},
+        test::Told{"MarksAndGlyphs",
+                   kHead + "[Auction \"S\"]\n1H! $2 Pass? 4H=1= + AP *\n[Note \"1:naar de manche\"]\n",
+                   "4HS 0 Q=4H: naar de manche"},
+        test::Told{"PassTooMany", kHead + "[Auction \"S\"]\n1H P 4H P P P P\n",
+                   "4HS 0 (passes behind the end of the auction are left out)"},
+        test::Told{"OpeningPassesLeftOut", kHead + "[Declarer \"N\"]\n[Contract \"4H\"]\n[Auction \"S\"]\n1H P 4H AP\n",
+                   "4HN 0 (2 opening passes were left out and are put back)"},
+        test::Told{"DoublingDiffers", kHead + "[Declarer \"S\"]\n[Contract \"4H\"]\n[Auction \"S\"]\n1H P 4H X AP\n",
+                   "4HXS 0 (the auction's doubling holds, not the tag's)"},
+        test::Told{"Unfinished", kHead + "[Declarer \"S\"]\n[Contract \"4H\"]\n[Auction \"S\"]\n1H P *\n",
+                   "4HS 0 (the auction is not finished; the contract's tag holds)"},
+        test::Told{"OtherDealer", kHead + "[Auction \"E\"]\n1H P 4H AP\n",
+                   "4HE 0 (the auction begins with E, not with the dealer's tag)"},
+        test::Told{"PassedOut", kHead + "[Auction \"S\"]\nP P P P\n", "out 0"},
+        test::Told{"TagsSayOtherwise", kHead + "[Declarer \"S\"]\n[Contract \"5C\"]\n" + kAuction,
+                   "5CS 0 !7: the auction ends in 4H by S, the tags say 5C by S"},
+        test::Told{"IllegalBid", kHead + "[Auction \"S\"]\n4H P 3H AP\n", "- 0 !5: call 3 (3H): not above 4H"},
+        test::Told{"IrregularCall", kHead + "[Auction \"S\"]\n1H ^I 1D\n", "- 0 !6: an irregular call: ^I"},
+        test::Told{"Redoubled", kHead + "[Declarer \"S\"]\n[Contract \"5DR\"]\n", "5DXXS 0"},
+        test::Told{"ColumnsFromTheLeader", kHead + kBidding + "[Play \"W\"]\nDT D2 DK D6\nD9 DA D5 DJ\n*\n", "4HS 8"},
+        test::Told{"LeaderOfTheTrickFirst", kHead + kBidding + "[Play \"W\"]\nDT D2 DK D6\nD5 DJ D9 DA\n*\n",
+                   "4HS 8 (the cards of the play stand out of their columns)"},
+        test::Told{"WrongSeatInTheTag", kHead + kBidding + "[Play \"N\"]\nDT D2 DK D6\n*\n",
+                   "4HS 4 (the play is led by another seat than its tag says)"},
+        test::Told{"TurnedByOneSeat", kHead + kBidding + "[Play \"N\"]\nD2 DK D6 DT\n*\n",
+                   "4HS 0 !9: the play does not fit the hands, or is not led from declarer's left"},
+        test::Told{"Gap", kHead + kBidding + "[Play \"W\"]\nDT D2 - D6\nD9 DA D5 DJ\n*\n",
+                   "4HS 2 (the play has a gap behind card 2; the rest is left out)"},
+        test::Told{"Claimed", kHead + kBidding + "[Play \"W\"]\nDT D2 DK D6\n- - D5 -\n*\n", "4HS 5"},
+        test::Told{"Revoke", kHead + kBidding + "[Play \"W\"]\nDT D2 DK C8\n*\n",
+                   "4HS 0 !10: card 4 (C8): S does not follow suit"},
+        test::Told{"Comments",
+                   "{Wat nu?}\n" + kHead + kBidding +
+                       "[Play \"W\"]\n{Kijk.} DT {Een tien.\n\nOf niet?} D2 DK=1= D6\n* {Gedaan.}\n" +
+                       "[Note \"1:hoog\"]\n{Klaar}\n",
+                   "4HS 4 Q=Wat nu?/Kijk. C1=Een tien.//Of niet? C3=hoog A=Gedaan./Klaar"},
+        test::Told{"CommentAtACall", kHead + "[Auction \"S\"]\n{Vooraf} 1H {Vijf harten} P 4H AP\n",
+                   "4HS 0 Q=Vooraf/1H: Vijf harten"},
+        test::Told{"CommentsWithoutPlay", kHead + kBidding + "{Wat bedoelt Noord?}\n; En Zuid?\n",
+                   "4HS 0 Q=Wat bedoelt Noord?/En Zuid?"},
+        test::Told{"TwoUnknownHands", "[Deal \"N:A32.K54.A32.K432 - QJT.QJT98.QJ6.Q8 -\"]\n",
+                   "- 0 <more than one hand is unknown>"},
+        test::Told{"EndPosition", "[Deal \"N:A.K.. K.A.. Q.Q.. 9.7..\"]\n",
+                   "- 0 (an end position is left out) <an end position>"},
+        test::Told{"CardTwice", "[Deal \"N:A32.K54.A32.K432 K54.A32.K54.A765 QJT.QJT98.QJ6.A8 9876.76.T987.JT9\"]\n",
+                   "- 0 !1: CA is held twice"},
+        test::Told{"NoDeal", "[Board \"1\"]\n[Contract \"4H\"]\n[Declarer \"S\"]\n", "- 0 <no deal>"}),
     [](const auto& info) { return info.param.name; });
 
 TEST(PbnReader, TellsGamesApartHoweverTheyAreWritten) {
@@ -137,7 +102,7 @@ TEST(PbnReader, TakesOverWhatAGameDoesNotRepeat) {
         kHead + kBidding + "\n[Board \"7\"]\n[Declarer \"E\"]\n[Contract \"1NT\"]\n\n[Board \"#\"]\n[Dealer \"#\"]\n" +
         "\n[Board \"8\"]\n[Contract \"1NT\"]\n");
     ASSERT_EQ(boards.size(), 4U);
-    EXPECT_EQ(told(boards[1]), "1NE 0");
+    EXPECT_EQ(test::told(boards[1]), "1NE 0");
     EXPECT_EQ(boards[1].deal, boards[0].deal) << "another table of the same board";
     EXPECT_EQ(boards[2].board, "7");
     EXPECT_EQ(boards[2].deal, boards[0].deal);
@@ -150,16 +115,16 @@ TEST(PbnReader, ReadsEitherEncodingAndUtf16) {
     for (const char character : std::string("[Board \"1\"]\n{na\xEFve}\n"))
         utf16 += std::string(1, character) + std::string(1, '\0');
     for (const std::string& bytes : {utf8, std::string("[Board \"1\"]\n{na\xEFve}\n"), utf16}) {
-        ASSERT_EQ(read_one(bytes).texts.size(), 1U);
-        EXPECT_EQ(read_one(bytes).texts[0].text, "na\xC3\xAFve");
+        ASSERT_EQ(read(bytes)[0].texts.size(), 1U);
+        EXPECT_EQ(read(bytes)[0].texts[0].text, "na\xC3\xAFve");
     }
 }
 
 TEST(PbnReader, GoesOnBehindABrokenTag) {
     const auto boards = read("[Board \"1]\n" + kDeal + "\n" + kHead);
     ASSERT_EQ(boards.size(), 2U);
-    EXPECT_EQ(told(boards[0]), "- 0 (a tag that does not end)");
-    EXPECT_EQ(told(boards[1]), "- 0");
+    EXPECT_EQ(test::told(boards[0]), "- 0 (a tag that does not end)");
+    EXPECT_EQ(test::told(boards[1]), "- 0");
 }
 
 }  // namespace
