@@ -37,6 +37,7 @@ public:
         std::string problem = over() ? "the auction is over" : problem_of(call, caller);
         passes_ = call.kind == Call::Kind::Pass ? passes_ + 1 : 0;
         if (call.kind == Call::Kind::Bid) {
+            opened_ = true;
             bid_ = call.bid;
             bidder_ = caller;
             doubling_ = Doubling::None;
@@ -46,22 +47,23 @@ public:
         return problem;
     }
 
-    bool over() const { return passes_ >= (bid_ ? 3 : 4); }
+    bool over() const { return passes_ >= (opened_ ? 3 : 4); }
     std::size_t number() const { return number_; }
-    const std::optional<Bid>& bid() const { return bid_; }
+    bool opened() const { return opened_; }
+    const Bid& bid() const { return bid_; }  // the last one
     Seat bidder() const { return bidder_; }
     Doubling doubling() const { return doubling_; }
 
 private:
     std::string problem_of(const Call& call, Seat caller) const {
-        const bool own = bid_ && same_side(caller, bidder_);
+        const bool own = opened_ && same_side(caller, bidder_);
         switch (call.kind) {
             case Call::Kind::Pass:
                 return {};
             case Call::Kind::Bid:
-                return bid_ && call.bid <= *bid_ ? "not above " + text_of(Call::of(*bid_)) : "";
+                return opened_ && call.bid <= bid_ ? "not above " + text_of(Call::of(bid_)) : "";
             case Call::Kind::Double:
-                return !bid_ || own || doubling_ != Doubling::None ? "nothing to double" : "";
+                return !opened_ || own || doubling_ != Doubling::None ? "nothing to double" : "";
             case Call::Kind::Redouble:
                 return !own || doubling_ != Doubling::Doubled ? "nothing to redouble" : "";
         }
@@ -71,7 +73,8 @@ private:
     const Auction& auction_;
     std::size_t number_ = 0;
     int passes_ = 0;  // in a row
-    std::optional<Bid> bid_;
+    bool opened_ = false;
+    Bid bid_{};
     Seat bidder_ = Seat::North;
     Doubling doubling_ = Doubling::None;
 };
@@ -146,12 +149,12 @@ std::string Auction::problem() const {
 
 std::optional<Contract> Auction::contract() const {
     const Bidding bidding = follow(*this);
-    if (!bidding.bid()) return std::nullopt;
+    if (!bidding.opened()) return std::nullopt;
     for (std::size_t number = 0; number < calls.size(); ++number) {
         const Call& call = calls[number];
-        const bool named = call.kind == Call::Kind::Bid && call.bid.strain == bidding.bid()->strain;
+        const bool named = call.kind == Call::Kind::Bid && call.bid.strain == bidding.bid().strain;
         if (named && same_side(caller(number), bidding.bidder())) {
-            return Contract{*bidding.bid(), bidding.doubling(), caller(number)};
+            return Contract{bidding.bid(), bidding.doubling(), caller(number)};
         }
     }
     return std::nullopt;

@@ -226,16 +226,16 @@ void read_play(const PbnGame& game, Board& board) {
     if (!board.contract) return board.note(tag->line, "a play without a contract is left out");
 
     const Seat leader = board.contract->leader();
-    const auto tagged = tag->value.size() == 1 ? seat_of(tag->value[0]) : std::nullopt;
-    Players players = players_by_column(written.rows, tagged.value_or(leader));
-    if (!tagged || *tagged != leader || !hold_their_cards(written.rows, players, *board.deal)) {
+    const bool led_as_tagged = tag->value.size() == 1 && seat_of(tag->value[0]) == leader;
+    Players players = players_by_column(written.rows, leader);
+    if (!led_as_tagged || !hold_their_cards(written.rows, players, *board.deal)) {
         const auto by_hand = players_by_hand(written.rows, *board.deal);
         const Slot& first = written.rows.front().front();
         if (!by_hand || !first.card || by_hand->front().front() != leader) {
             return board.fail(tag->line, "the play does not fit the hands, or is not led from declarer's left");
         }
-        board.note(tag->line, tagged == leader ? "the cards of the play stand out of their columns"
-                                               : "the play is led by another seat than its tag says");
+        board.note(tag->line, led_as_tagged ? "the cards of the play stand out of their columns"
+                                            : "the play is led by another seat than its tag says");
         players = *by_hand;
     }
     const std::optional<Suit> trump = board.contract->trump();
