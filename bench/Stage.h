@@ -5,7 +5,7 @@
 
 #include "desktop/CardPreparer.h"
 #include "desktop/QtHost.h"
-#include "desktop/QtPlatform.h"
+#include "desktop/system/QtPlatform.h"
 #include "services/Programma.h"
 
 namespace bench {
@@ -50,7 +50,7 @@ private:
 
 public:
     desktop::QtHost host;
-    desktop::QtPlatform platform;
+    desktop::system::QtPlatform platform;
     Programma programma;
     desktop::CardPreparer preparer{host};
 };

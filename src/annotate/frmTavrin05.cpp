@@ -3,6 +3,7 @@
 #include "base/Zolang.h"
 #include "cards/Kaart.h"
 #include "cards/Kaarten.h"
+#include "cards/PerPlaats.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "services/Bas_Aftavrin.h"
@@ -10,25 +11,23 @@
 namespace {
 
 constexpr forms::Size kInner{16260, 6645};
-constexpr int kKaarten = 52;
-constexpr int kSlagen = 13;
 constexpr int kPerRij = 13;
 constexpr Colour kZwart{0};
 constexpr Colour kBlauw{0xFF0000};
 constexpr Colour kVoorbeeldBlauw = Colour::rgb(0, 0, 192);
 constexpr double kOnderNummer = 240;  // from a number to the picture below it
 
-constexpr forms::Rect kKompas[] = {
+constexpr kaart::PerPlaats<forms::Rect> kKompas{
     {2040, 720, 1560, 225}, {3990, 1830, 1560, 225}, {2040, 3570, 1560, 225}, {150, 1830, 1560, 225}};
 
-forms::Rect kaartnummer_plek(int plaats) { return kKompas[plaats - 1]; }
-
 forms::Rect kaart_plek(int plaats) {
-    const forms::Rect nummer = kaartnummer_plek(plaats);
+    const forms::Rect nummer = kKompas(plaats);
     return {nummer.left, nummer.top + kOnderNummer, 1560, 2340};
 }
 
-forms::Rect nummer_plek(int index) { return {255.0 + 570 * (index % kPerRij), 270.0 + 840 * (index / kPerRij), 450, 225}; }
+forms::Rect nummer_plek(int index) {
+    return {255.0 + 570 * (index % kPerRij), 270.0 + 840 * (index / kPerRij), 450, 225};
+}
 
 forms::Rect merk_plek(int index) {
     const forms::Rect nummer = nummer_plek(index);
@@ -38,11 +37,14 @@ forms::Rect merk_plek(int index) {
 }  // namespace
 
 frmTavrin05::frmTavrin05(Programma& programma)
-    : Scherm(programma, "frmTavrin05", kInner),
-      lblKaartNummer(fraSlag, "lblKaartNummer", 1, 4, kaartnummer_plek),
+    : Scherm(programma, "frmTavrin05", kInner,
+             {.key_up = "frmTavrin05 - Form - KeyUp",
+              .terug = "frmTavrin05 - cmdTerug - Click",
+              .query_unload = "frmTavrin05 - Form - QueryUnload"}),
+      lblKaartNummer(fraSlag, "lblKaartNummer", 1, 4, kKompas),
       picKaart(fraSlag, "picKaart", 1, 4, kaart_plek),
-      lblYesNo(fraKaartMetTekst, "lblYesNo", 0, kKaarten - 1, nummer_plek),
-      picYesNo(fraKaartMetTekst, "picYesNo", 0, kKaarten - 1, merk_plek) {
+      lblYesNo(fraKaartMetTekst, "lblYesNo", 0, kaart::kKaarten - 1, nummer_plek),
+      picYesNo(fraKaartMetTekst, "picYesNo", 0, kaart::kKaarten - 1, merk_plek) {
     stel_uiterlijk_in();
     chkSorteer.Click = [this] { chkSorteer_Click(); };
     lstSpellen.Click = [this] { lstSpellen_Click(); };
@@ -53,10 +55,13 @@ frmTavrin05::frmTavrin05(Programma& programma)
     cmdVoorBeeld.Click = [this] { cmdVoorBeeld_Click(); };
     cmdSluiten.Click = [this] { cmdSluiten_Click(); };
     cmdToonSpel.Click = [this] { cmdToonSpel_Click(); };
-    cmdTerug.Click = [this] { Foutpad("frmTavrin05 - cmdTerug - Click", [&] { Form_QueryUnload(); }); };
-    for (const auto& [i, label] : lblKaartNummer) label->Click = [this, i = i] { lblKaartNummer_Click(i); };
-    for (const auto& [i, kaart] : picKaart) kaart->Click = [this, i = i] { picKaart_Click(i); };
-    for (const auto& [i, merk] : picYesNo) merk->Click = [this, i = i] { picYesNo_Click(i); };
+    cmdTerug.Click = [this] { cmdTerug_Click(); };
+    for (const auto& [i, label] : lblKaartNummer)
+        label->Click = [this, i = i] { lblKaartNummer_Click(i); };
+    for (const auto& [i, kaart] : picKaart)
+        kaart->Click = [this, i = i] { picKaart_Click(i); };
+    for (const auto& [i, merk] : picYesNo)
+        merk->Click = [this, i = i] { picYesNo_Click(i); };
     for (const auto& [i, label] : lblYesNo) {
         label->Click = [this, i = i] { Foutpad("frmTavrin05 - lblYesNo - Click", [&] { picYesNo_Click(i); }); };
     }
@@ -66,7 +71,7 @@ void frmTavrin05::stel_uiterlijk_in() {
     txtSlag.MaxLength = 3;
     txtSlag.Alignment = forms::Alignment::Centre;
     vscrSlag.Min = -1;
-    vscrSlag.Max = kSlagen;
+    vscrSlag.Max = kaart::kSlagen;
     lblUit.AutoSize = true;
     lblToonSlag.Visible = false;
     lblDezeKaart.AutoSize = true;
@@ -80,7 +85,8 @@ void frmTavrin05::stel_uiterlijk_in() {
     picJa.Picture = {0, "ja"};
     picNee.Picture = {0, "nee"};
     picBezig.Picture = {0, "bezig"};
-    for (forms::PictureBox* merk : {&picJa, &picNee, &picBezig}) merk->Visible = false;
+    for (forms::PictureBox* merk : {&picJa, &picNee, &picBezig})
+        merk->Visible = false;
     for (forms::TextBox* doos : {&txtInformatie, &txtVoorbeeld, &txtKnipTekst}) {
         doos->MultiLine = true;
         doos->FontSize = 12;
@@ -91,33 +97,35 @@ void frmTavrin05::stel_uiterlijk_in() {
     txtVoorbeeld.ForeColor = forms::kWindowColour;
     txtKnipTekst.Visible = false;
     frmVoorbeeld.Visible = false;
-    for (forms::CommandButton* knop : {&cmdWissen, &cmdVoorBeeld, &cmdToonSpel, &cmdGebruiken}) knop->Enabled = false;
+    for (forms::CommandButton* knop : {&cmdWissen, &cmdVoorBeeld, &cmdToonSpel, &cmdGebruiken})
+        knop->Enabled = false;
     fraSlag.Enabled = false;
     fraKaartMetTekst.Enabled = false;
 }
 
 void frmTavrin05::Form_Load() {
     Foutpad("frmTavrin05 - Form - Load", [&] {
-        Caption = LeesResString(10057);
-        fraSpellen.Caption = LeesResString(10004);
-        chkSorteer.Caption = LeesResString(10009);
-        cmdTerug.Caption = "&" + LeesResString(10018);
-        fraSlag.Caption = LeesResString(10057);
-        lblSlag.Caption = LeesResString(10052);
-        lblUit.Caption = LeesResString(10059) + ":";
-        fraKaartMetTekst.Caption = LeesResString(10063);
-        cmdWissen.Caption = "&" + LeesResString(10005);
-        cmdVoorBeeld.Caption = "&" + LeesResString(10103);
-        cmdToonSpel.Caption = LeesResString(10065);
-        cmdGebruiken.Caption = "&" + LeesResString(10064);
-        cmdSluiten.Caption = "&" + LeesResString(10104);
+        Caption = LeesResString(Bericht::Editor);
+        fraSpellen.Caption = LeesResString(Bericht::Spellen);
+        chkSorteer.Caption = LeesResString(Bericht::SorteerHoogLaag);
+        cmdTerug.Caption = "&" + LeesResString(Bericht::Terug);
+        fraSlag.Caption = LeesResString(Bericht::Editor);
+        lblSlag.Caption = LeesResString(Bericht::Slag);
+        lblUit.Caption = LeesResString(Bericht::Uit) + ":";
+        fraKaartMetTekst.Caption = LeesResString(Bericht::BijschriftKaarten);
+        cmdWissen.Caption = "&" + LeesResString(Bericht::Wissen);
+        cmdVoorBeeld.Caption = "&" + LeesResString(Bericht::VoorbeeldTekst);
+        cmdToonSpel.Caption = LeesResString(Bericht::ToonSpel);
+        cmdGebruiken.Caption = "&" + LeesResString(Bericht::TekstOpslaan);
+        cmdSluiten.Caption = "&" + LeesResString(Bericht::Sluiten);
         zet_buiten_beeld(cmdFocus);
         centreer();
         // As wide as the preview, so that a text is cut where the preview would break it.
         txtKnipTekst.Move(2490, txtVoorbeeld.Top, txtVoorbeeld.Width, txtVoorbeeld.Height);
         lees_spellen();
-        for (int slag = kSlagen; slag >= 1; --slag) lstSlag.AddItem(std::to_string(slag));
-        zet_balk(kSlagen);
+        for (int slag = kaart::kSlagen; slag >= 1; --slag)
+            lstSlag.AddItem(std::to_string(slag));
+        zet_balk(kaart::kSlagen);
         zet_alles_dicht();
     });
 }
@@ -128,12 +136,12 @@ void frmTavrin05::lees_spellen() {
 
 // Card backs, numbers without a card, and no marker that tells of a text.
 void frmTavrin05::zet_alles_dicht() {
-    for (int plaats = 1; plaats <= 4; ++plaats) {
+    for (const int plaats : kaart::kPlaatsen) {
         picKaart(plaats).Picture = Bas_Aftavrin::LaadPlaatje(gedeeld.kaartRugId);
         picKaart(plaats).AccessibleName = "";
-        lblKaartNummer(plaats).Caption = LeesResString(10060);
+        lblKaartNummer(plaats).Caption = LeesResString(Bericht::Nummer);
     }
-    for (int i = 0; i < kKaarten; ++i) {
+    for (int i = 0; i < kaart::kKaarten; ++i) {
         lblYesNo(i).Caption = std::to_string(i + 1);
         picYesNo(i).Picture = picNee.Picture();
     }
@@ -149,22 +157,9 @@ void frmTavrin05::Form_Activate() {
     Foutpad("frmTavrin05 - Form - Activate", [&] { cmdFocus.SetFocus(); });
 }
 
-void frmTavrin05::Form_KeyUp(int key_code) {
-    Foutpad("frmTavrin05 - Form - KeyUp", [&] {
-        if (key_code == forms::kKeyEscape) Form_QueryUnload();
-    });
-}
-
-void frmTavrin05::Form_QueryUnload() {
-    Foutpad("frmTavrin05 - Form - QueryUnload", [&] {
-        programma.schermen.toon("frmTavrin01");
-        Unload();
-    });
-}
-
 void frmTavrin05::chkSorteer_Click() {
     Foutpad("frmTavrin05 - chkSorteer - Click", [&] {
-        chkSorteer.Caption = chkSorteer.Caption == LeesResString(10009) ? LeesResString(10010) : LeesResString(10009);
+        wissel_opschrift(chkSorteer);
         schakel_kaders(false);
         lees_spellen();
         cmdFocus.SetFocus();
@@ -185,7 +180,8 @@ void frmTavrin05::lstSpellen_Click() {
         if (ontbreekt(stam + " aftavrin.txt", naam + " aftavrin.txt")) return;
         lees_speelrijen(stam + " aftavrin.txt");
         lstInformatie.Clear();
-        for (int nummer = 1; nummer <= kKaarten; ++nummer) lstInformatie.AddItem(std::to_string(nummer) + "|");
+        for (int nummer = 1; nummer <= kaart::kKaarten; ++nummer)
+            lstInformatie.AddItem(std::to_string(nummer) + "|");
         zet_alles_dicht();
         lees_teksten(stam + " informatie.txt");
         gedeeld.spelMap = map;
@@ -200,7 +196,7 @@ void frmTavrin05::lstSpellen_Click() {
 // Tells that a file of the deal is missing.
 bool frmTavrin05::ontbreekt(const std::string& bestand, const std::string& genoemd) {
     if (Kaarten::aanwezig(bestand)) return false;
-    std::string melding = replaced(LeesResString(10062), "~", genoemd);
+    std::string melding = replaced(LeesResString(Bericht::BestandNietGevonden), "~", genoemd);
     melding = replaced(replaced(melding, "+", gedeeld.spelMapKopie), "|", "\n");
     programma.platform.message_box(box_style::kInformation, Caption(), melding);
     cmdFocus.SetFocus();
@@ -209,7 +205,8 @@ bool frmTavrin05::ontbreekt(const std::string& bestand, const std::string& genoe
 
 void frmTavrin05::lees_speelrijen(const std::string& pad) {
     lstAfTavrin.Clear();
-    for (LineReader regels(pad); !regels.at_end();) lstAfTavrin.AddItem(regels.line());
+    for (LineReader regels(pad); !regels.at_end();)
+        lstAfTavrin.AddItem(regels.line());
 }
 
 void frmTavrin05::lees_teksten(const std::string& pad) {
@@ -251,19 +248,19 @@ void frmTavrin05::vscrSlag_Change() {
 void frmTavrin05::toon_slag(const std::string& rij) {
     gedeeld.delen = split(rij, "|");
     const int uitkomer = numeric_value(left(gedeeld.delen[0], 1));
-    lblUit.Caption = LeesResString(10059) + ":" + LeesResString(kaart::bericht_van_plaats(uitkomer));
+    lblUit.Caption = LeesResString(Bericht::Uit) + ":" + LeesResString(kaart::bericht_van_plaats(uitkomer));
     lblToonSlag.Caption = rij;
-    for (int plaats = 1; plaats <= 4; ++plaats) {
+    for (const int plaats : kaart::kPlaatsen) {
         lblKaartNummer(plaats).FontBold = false;
         lblKaartNummer(plaats).ForeColor = kZwart;
     }
     lblKaartNummer(uitkomer).FontBold = true;
     lblKaartNummer(uitkomer).ForeColor = kBlauw;
     for (int i = 0, plaats = uitkomer; i < 4; ++i, plaats = kaart::volgende_plaats(plaats)) {
-        lblKaartNummer(plaats).Caption = LeesResString(10060) + ": " + std::to_string(EersteNummer + i);
+        lblKaartNummer(plaats).Caption = LeesResString(Bericht::Nummer) + ": " + std::to_string(EersteNummer + i);
     }
     // The pictures stay at their seats, only the numbers follow the order of play.
-    for (int plaats = 1; plaats <= 4; ++plaats) {
+    for (const int plaats : kaart::kPlaatsen) {
         const int code = numeric_value(gedeeld.delen[plaats]);
         picKaart(plaats).Picture = Bas_Aftavrin::LaadPlaatje(code);
         picKaart(plaats).AccessibleName = kaart::titel(code);

@@ -17,13 +17,23 @@
 // The editor: a text for each of the 52 cards of a stored deal, in the order in which they are played. It rewrites
 // one file of the package, " informatie.txt". The choice of a deal and of a trick lie in frmTavrin05.cpp, the texts of
 // the cards in frmTavrin05_Tekst.cpp.
+//
+// What controls remember, beside what they show:
+//
+//   control                 holds                                written by          read by
+//   fraKaartMetTekst.Tag    index of the chosen card, 0 to 51,   picYesNo_Click      cmdGebruiken, cmdWissen,
+//                           empty before the first choice                            bewaar_tekst
+//   lstInformatie           line k is the text of card k + 1:    lstSpellen_Click,   picYesNo_Click, ZetJaNeePic,
+//                           number, bar, text                    bewaar_tekst        bewaar_tekst
+//   lstAfTavrin             the play rows                        lees_speelrijen     vscrSlag_Change
+//   lstSlag                 trick numbers, 13 down to 1          Form_Load           vscrSlag_Change
+//   lblKaartNummer.Caption  the card's number in order of play   toon_slag           lblKaartNummer_Click
+//   chkSorteer.Caption      what its next click does             chkSorteer_Click    the same
 class frmTavrin05 final : public Scherm {
 public:
     explicit frmTavrin05(Programma& programma);
     void Form_Load() override;
     void Form_Activate() override;
-    void Form_KeyUp(int key_code) override;
-    void Form_QueryUnload() override;
 
     forms::Frame fraSpellen{*this, "fraSpellen", {90, 120, 2355, 6405}};
     forms::ListBox lstSpellen{fraSpellen, "lstSpellen", {150, 360, 2055, 4935}};
@@ -39,7 +49,7 @@ public:
     forms::ControlArray<forms::Label> lblKaartNummer;  // by seat, 1 to 4, as a compass
     forms::ControlArray<forms::PictureBox> picKaart;   // below each its card
 
-    forms::Frame fraKaartMetTekst{*this, "fraKaartMetTekst", {8340, 120, 7815, 6405}};  // Tag: index of the chosen card
+    forms::Frame fraKaartMetTekst{*this, "fraKaartMetTekst", {8340, 120, 7815, 6405}};
     forms::ControlArray<forms::Label> lblYesNo;       // numbers of the cards, 0 to 51
     forms::ControlArray<forms::PictureBox> picYesNo;  // below each whether it has a text
     forms::PictureBox picJa{fraKaartMetTekst, "picJa", {0, 0, 450, 450}};
@@ -59,9 +69,9 @@ public:
     forms::TextBox txtKnipTekst{*this, "txtKnipTekst", {0, 0, 5325, 2827}};
     forms::CommandButton cmdFocus{*this, "cmdFocus", {0, 0, 300, 300}};
     forms::ListBox lstKnipTekst{*this, "lstKnipTekst"};
-    forms::ListBox lstInformatie{*this, "lstInformatie"};  // line k is the text of card k + 1: number, bar, text
+    forms::ListBox lstInformatie{*this, "lstInformatie"};
     forms::ListBox lstAfTavrin{*this, "lstAfTavrin"};
-    forms::ListBox lstSlag{*this, "lstSlag"};  // trick numbers, 13 down to 1
+    forms::ListBox lstSlag{*this, "lstSlag"};
     forms::DirListBox dirSpellen{*this, "dirSpellen"};
 
     void ZetJaNeePic();

@@ -5,7 +5,7 @@
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "services/Bas_Aftavrin.h"
-#include "table/Knip_Tekst.h"
+#include "services/Knip_Tekst.h"
 
 // Lines that are empty leave their marker as it is.
 void frmTavrin05::ZetJaNeePic() {
@@ -39,7 +39,7 @@ void frmTavrin05::picYesNo_Click(int index) {
         const int regel = Bas_Aftavrin::GetListBoxIndex(programma, lstInformatie, nummer + "|", false);
         gedeeld.delen = split(lstInformatie.List(regel), "|");
         txtInformatie.Text = replaced(gedeeld.delen[1], "~", "\r\n");
-        lblDezeKaart.Caption = LeesResString(10060) + ": " + nummer;
+        lblDezeKaart.Caption = LeesResString(Bericht::Nummer) + ": " + nummer;
         lblDezeKaart.Left = cmdGebruiken.Left - lblDezeKaart.Width - 128;
         {
             const Zolang houdt(TekstHouden, true);
@@ -75,8 +75,8 @@ void frmTavrin05::cmdWissen_Click() {
             cmdFocus.SetFocus();
             return;
         }
-        const std::string kaart = LeesResString(10072) + lower_case(lblDezeKaart.Caption());
-        const std::string vraag = replaced(LeesResString(10071), "~", kaart);
+        const std::string kaart = LeesResString(Bericht::Kaart) + lower_case(lblDezeKaart.Caption());
+        const std::string vraag = replaced(LeesResString(Bericht::InformatieWissen), "~", kaart);
         if (programma.platform.message_box(box_style::kQuestion, Caption(), vraag) == Answer::No) {
             cmdFocus.SetFocus();
             return;

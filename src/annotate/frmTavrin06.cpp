@@ -8,7 +8,6 @@ namespace {
 constexpr forms::Size kInner{7395, 6060};
 constexpr double kKaartBreedte = 1005;
 constexpr double kKaartHoogte = 1485;
-constexpr int kKleinePlaatjes = 100;  // what a small face's number is less than the card's code
 constexpr double kStartLinks = 1000;
 constexpr double kStap = 300;
 constexpr double kNoordBoven = 120;
@@ -22,13 +21,15 @@ constexpr Colour kTafelgroen = Colour::rgb(24, 96, 60);
 }  // namespace
 
 frmTavrin06::frmTavrin06(Programma& programma)
-    : Scherm(programma, "frmTavrin06", kInner),
-      HandLijsten(static_cast<forms::Form&>(*this)),
-      picKaart{forms::ControlArray<forms::PictureBox>(picBack, "picKaartNoord", {{0, {0, 0, kKaartBreedte, kKaartHoogte}}}),
-               forms::ControlArray<forms::PictureBox>(picBack, "picKaartOost",
-                                                      {{0, {kOostOntwerp, 0, kKaartBreedte, kKaartHoogte}}}),
-               forms::ControlArray<forms::PictureBox>(picBack, "picKaartZuid", {{0, {0, 0, kKaartBreedte, kKaartHoogte}}}),
-               forms::ControlArray<forms::PictureBox>(picBack, "picKaartWest", {{0, {0, 0, kKaartBreedte, kKaartHoogte}}})} {
+    : Scherm(programma, "frmTavrin06", kInner,
+             {.key_up = "frmTavrin06 - Form - KeyUp",
+              .terug = "frmTavrin06 - cmdTerug - Click",
+              .query_unload = "frmTavrin06 - Form - QueryUnload"}),
+      picKaart([this](int plaats) {
+          const double links = plaats == kaart::kOost ? kOostOntwerp : 0;
+          return forms::ControlArray<forms::PictureBox>(picBack, std::string("picKaart") + kaart::kPlaatsNaam(plaats),
+                                                        {{0, {links, 0, kKaartBreedte, kKaartHoogte}}});
+      }) {
     picBack.BackColor = kTafelgroen;
     picPlay.Visible = false;
     fraSlagen.Visible = false;
@@ -39,26 +40,27 @@ frmTavrin06::frmTavrin06(Programma& programma)
             kaart.Visible = false;
         });
     }
-    cmdTerug.Click = [this] { Foutpad("frmTavrin06 - cmdTerug - Click", [&] { Form_QueryUnload(); }); };
+    cmdTerug.Click = [this] { cmdTerug_Click(); };
 }
 
 void frmTavrin06::Form_Load() {
     Foutpad("frmTavrin06 - Form - Load", [&] {
         programma.maten.maxLetterGrootte = kMaxLetter;
         gedeeld.delen = split(gedeeld.spelNaam, " ");
-        Caption = LeesResString(10013) + " " + std::to_string(numeric_value(gedeeld.delen[1]));
+        Caption = LeesResString(Bericht::Spel) + " " + std::to_string(numeric_value(gedeeld.delen[1]));
         picBack.Move(static_cast<int>(Width - picBack.Width) / 2, static_cast<int>(Height - picBack.Height) / 2);
-        cmdTerug.Caption = "&" + LeesResString(10018);
+        cmdTerug.Caption = "&" + LeesResString(Bericht::Terug);
         for (int i = 1; i <= kaart::kKaartenPerKleur; ++i) {
-            for (auto& hand : picKaart) hand.Load(i).ZOrder();
+            for (auto& hand : picKaart)
+                hand.Load(i).ZOrder();
         }
-        vul_kaarten();
-        Kaarten::LeesKartenBestandIn(*this, *this);
-        Kaarten::VerdeelDeKaarten(*this, *this);
-        leg_rij(1, kNoordBoven);
-        leg_kleuren(2, picKaart[1](0).Width + picKaart[1](0).Left, true);
-        leg_rij(3, kZuidBoven);
-        leg_kleuren(4, kWestLinks, false);
+        lijsten.vul_kaarten();
+        Kaarten::LeesKartenBestandIn(*this, lijsten);
+        Kaarten::VerdeelDeKaarten(*this, lijsten);
+        leg_rij(kaart::kNoord, kNoordBoven);
+        leg_kleuren(kaart::kOost, picKaart(kaart::kOost)(0).right(), true);
+        leg_rij(kaart::kZuid, kZuidBoven);
+        leg_kleuren(kaart::kWest, kWestLinks, false);
         cmdTerug.ZOrder();
         centreer();
         Bas_Aftavrin::BewaarMaten(programma, *this);
@@ -66,7 +68,7 @@ void frmTavrin06::Form_Load() {
 }
 
 void frmTavrin06::leg_kaart(forms::PictureBox& plek, const std::string& code, double links, double boven) {
-    plek.Picture = Bas_Aftavrin::LaadPlaatje(kaart::nummer_van(code) + kaart::kCodeBasis - kKleinePlaatjes);
+    plek.Picture = Bas_Aftavrin::LaadPlaatje(kaart::nummer_van(code) + resources::plaatje::kKleineKaarten);
     plek.AccessibleName = kaart::titel(numeric_value(code));
     plek.Tag = code;
     plek.BorderStyle = 0;
@@ -78,9 +80,9 @@ void frmTavrin06::leg_kaart(forms::PictureBox& plek, const std::string& code, do
 void frmTavrin06::leg_rij(int plaats, double boven) {
     int n = 0;
     for (const kaart::Kleur kleur : kaart::kToonVolgorde) {
-        const forms::ListBox& lijst = suit(kleur, plaats);
+        const forms::ListBox& lijst = lijsten.lstKleur(kleur)(plaats);
         for (int i = 0; i < lijst.ListCount(); ++i, ++n) {
-            leg_kaart(picKaart[static_cast<std::size_t>(plaats - 1)](n + 1), lijst.List(i), kStartLinks + n * kStap, boven);
+            leg_kaart(picKaart(plaats)(n + 1), lijst.List(i), kStartLinks + n * kStap, boven);
         }
     }
 }
@@ -90,11 +92,12 @@ void frmTavrin06::leg_kleuren(int plaats, double links, bool binnen_kader) {
     double boven = kKleurenBoven;
     int element = 0;
     for (const kaart::Kleur kleur : kaart::kToonVolgorde) {
-        const forms::ListBox& lijst = suit(kleur, plaats);
+        const forms::ListBox& lijst = lijsten.lstKleur(kleur)(plaats);
         const double breedte = lijst.ListCount() * gedeeld.kaartStap + kKaartBreedte;
-        while (binnen_kader && breedte + links > fraSlagen.Left - 128) links -= kStap;
+        while (binnen_kader && breedte + links > fraSlagen.Left - 128)
+            links -= kStap;
         for (int i = 0; i < lijst.ListCount(); ++i) {
-            leg_kaart(picKaart[static_cast<std::size_t>(plaats - 1)](++element), lijst.List(i), links + i * kStap, boven);
+            leg_kaart(picKaart(plaats)(++element), lijst.List(i), links + i * kStap, boven);
         }
         boven += kStap;
     }
@@ -102,15 +105,6 @@ void frmTavrin06::leg_kleuren(int plaats, double links, bool binnen_kader) {
 
 void frmTavrin06::Form_Resize() { Bas_Aftavrin::PasMatenAan(programma, *this); }
 
-void frmTavrin06::Form_KeyUp(int key_code) {
-    Foutpad("frmTavrin06 - Form - KeyUp", [&] {
-        if (key_code == forms::kKeyEscape) Form_QueryUnload();
-    });
-}
-
-void frmTavrin06::Form_QueryUnload() {
-    Foutpad("frmTavrin06 - Form - QueryUnload", [&] {
-        if (gedeeld.vorigScherm == 5) programma.schermen.toon("frmTavrin05");
-        Unload();
-    });
+void frmTavrin06::verlaat() {
+    if (gedeeld.vorigScherm == 5) programma.schermen.toon("frmTavrin05");
 }

@@ -12,10 +12,15 @@ namespace {
 constexpr Colour kZwart{0};
 constexpr Colour kRood{255};
 
-constexpr std::array<KleurGegevens, 4> kGegevens{{{34, 27, "schoppen", 109, kZwart},
-                                                  {35, 28, "harten", 108, kRood},
-                                                  {36, 29, "ruiten", 107, kRood},
-                                                  {37, 30, "klaveren", 106, kZwart}}};
+using resources::Bericht;
+namespace plaatje = resources::plaatje;
+
+constexpr std::array<KleurGegevens, 4> kGegevens{{
+    {Bericht::LetterSchoppen, Bericht::Schoppen, "Schoppen", plaatje::kSchoppen, kZwart},
+    {Bericht::LetterHarten, Bericht::Harten, "Harten", plaatje::kHarten, kRood},
+    {Bericht::LetterRuiten, Bericht::Ruiten, "Ruiten", plaatje::kRuiten, kRood},
+    {Bericht::LetterKlaveren, Bericht::Klaveren, "Klaveren", plaatje::kKlaveren, kZwart},
+}};
 
 }  // namespace
 
@@ -45,11 +50,10 @@ int rang_van_uitkomst(std::string_view woord) {
 }
 
 std::string titel(int kaartcode) {
-    if (kaartcode <= kCodeBasis || kaartcode >= kKaartRug) return {};
+    if (kaartcode <= kCodeBasis || kaartcode > kCodeBasis + kKaarten) return {};
     const int nummer = kaartcode - kCodeBasis;
-    std::string naam = gegevens(kleur_van(nummer)).naam;
-    naam.front() = static_cast<char>(naam.front() - 'a' + 'A');
-    return naam + " " + waarde_woorden()[static_cast<std::size_t>((nummer - 1) % kKaartenPerKleur)];
+    return std::string(gegevens(kleur_van(nummer)).naam) + " " +
+           waarde_woorden()[static_cast<std::size_t>((nummer - 1) % kKaartenPerKleur)];
 }
 
 }  // namespace kaart

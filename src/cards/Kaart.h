@@ -5,6 +5,8 @@
 #include <string_view>
 
 #include "base/Colour.h"
+#include "resources/Bericht.h"
+#include "resources/Plaatje.h"
 
 // Codes of seats, suits and cards.
 //
@@ -13,9 +15,17 @@
 // more, and is at the same time the number of the card's large picture.
 namespace kaart {
 
-inline constexpr int kCodeBasis = 2200;
-inline constexpr int kKaartRug = 2253;
+inline constexpr int kNoord = 1;
+inline constexpr int kOost = 2;
+inline constexpr int kZuid = 3;
+inline constexpr int kWest = 4;
+inline constexpr std::array kPlaatsen{kNoord, kOost, kZuid, kWest};
+
+inline constexpr int kCodeBasis = resources::plaatje::kGroteKaarten;
+inline constexpr int kKaarten = 52;
 inline constexpr int kKaartenPerKleur = 13;
+inline constexpr int kKaartenPerHand = 13;
+inline constexpr int kSlagen = 13;
 
 // The suits in the order of the card numbers. The digit of an opening lead counts in this order, the strain digit of
 // a bid in the opposite one, and open hands are shown in a third; the three are deliberately not unified.
@@ -24,16 +34,13 @@ inline constexpr std::array kKleuren{Kleur::Schoppen, Kleur::Harten, Kleur::Ruit
 inline constexpr std::array kToonVolgorde{Kleur::Schoppen, Kleur::Harten, Kleur::Klaveren, Kleur::Ruiten};
 
 struct KleurGegevens {
-    int letter;         // message of the suit letter
-    int woord;          // message of the suit word
-    const char* naam;   // the word in a contract, lower case
+    resources::Bericht letter;
+    resources::Bericht woord;
+    const char* naam;   // the word in a contract, a title and the names of controls
     int plaatje;        // picture of the suit symbol
     Colour tekstkleur;  // black or pure red
 };
 const KleurGegevens& gegevens(Kleur kleur);
-
-// 110 is the picture of no trump, and "sa" its word in a contract.
-inline constexpr int kPlaatjeSansAtout = 110;
 
 // The card number of a code as it stands in a file; of a code far out of range a number that is out of range as well.
 int nummer_van(std::string_view kaartcode);
@@ -41,14 +48,22 @@ int nummer_van(std::string_view kaartcode);
 Kleur kleur_van(int kaartnummer);
 
 // Code of a card from its rank value, 2 to 14, and its suit.
-constexpr int code_van(int rang, Kleur kleur) { return 2199 + rang + kKaartenPerKleur * static_cast<int>(kleur); }
+constexpr int code_van(int rang, Kleur kleur) {
+    return kCodeBasis - 1 + rang + kKaartenPerKleur * static_cast<int>(kleur);
+}
 
-// Message of the value letter of a rank value 10 to 14 ("T", "B", "V", "H", "A").
-constexpr int bericht_van_rang(int rang) { return 56 - rang; }
+// The message that lies a step behind a named one: those of the seats, and of the value letters, follow each other.
+constexpr resources::Bericht verder(resources::Bericht bericht, int stap) {
+    return static_cast<resources::Bericht>(static_cast<int>(bericht) + stap);
+}
+// The value letter of a rank value 10 to 14 ("T", "B", "V", "H", "A").
+constexpr resources::Bericht bericht_van_rang(int rang) { return verder(resources::Bericht::LetterTien, 10 - rang); }
 
-// Message of a seat's word and of its letter.
-constexpr int bericht_van_plaats(int plaats) { return 18 + plaats; }
-constexpr int letter_van_plaats(int plaats) { return 37 + plaats; }
+// A seat's word and its letter.
+constexpr resources::Bericht bericht_van_plaats(int plaats) { return verder(resources::Bericht::Noord, plaats - 1); }
+constexpr resources::Bericht letter_van_plaats(int plaats) {
+    return verder(resources::Bericht::LetterNoord, plaats - 1);
+}
 constexpr int volgende_plaats(int plaats) { return plaats % 4 + 1; }
 constexpr int vorige_plaats(int plaats) { return (plaats + 2) % 4 + 1; }
 

@@ -1,7 +1,9 @@
 #include "cards/Kaarten.h"
 
+#include "cards/PerPlaats.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
+#include "services/MappenLijst.h"
 
 namespace Kaarten {
 
@@ -51,7 +53,7 @@ void LeesKartenBestandIn(Scherm& scherm, HandLijsten& lijsten) {
 
 void VerdeelDeKaarten(Scherm& scherm, HandLijsten& lijsten) {
     scherm.Foutpad("Kaarten - General - VerdeelDeKaarten", [&] {
-        for (int plaats = 1; plaats <= 4; ++plaats)
+        for (const int plaats : kaart::kPlaatsen)
             lijsten.lstHand(plaats).Clear();
         Pieces& delen = scherm.gedeeld.delen;
         for (int rij = 0; rij < lijsten.lstAfTavrin.ListCount(); ++rij) {
@@ -59,11 +61,11 @@ void VerdeelDeKaarten(Scherm& scherm, HandLijsten& lijsten) {
             for (int i = 1; i <= delen.last(); ++i)
                 lijsten.lstHand(i).AddItem(delen[i]);
         }
-        for (int plaats = 1; plaats <= 4; ++plaats) {
+        for (const int plaats : kaart::kPlaatsen) {
             forms::ListBox& hand = lijsten.lstHand(plaats);
             for (int i = 0; i < hand.ListCount(); ++i) {
                 const int nummer = kaart::nummer_van(hand.List(i));
-                lijsten.suit(kaart::kleur_van(nummer), plaats).AddItem(hand.List(i));
+                lijsten.lstKleur(kaart::kleur_van(nummer))(plaats).AddItem(hand.List(i));
             }
         }
     });
@@ -72,14 +74,6 @@ void VerdeelDeKaarten(Scherm& scherm, HandLijsten& lijsten) {
 void LeesSpellen(Scherm& scherm, forms::ListBox& lstSpellen, forms::DirListBox& mappen, const std::string& map,
                  int volgorde) {
     scherm.Foutpad("Kaarten - General - LeesSpellen", [&] { vul_met_mappen(lstSpellen, mappen, map, volgorde); });
-}
-
-void vul_met_mappen(forms::ListBox& lijst, forms::DirListBox& mappen, const std::string& map, int volgorde) {
-    mappen.Path = map;
-    lijst.Clear();
-    const int aantal = mappen.ListCount();
-    for (int i = 0; i < aantal; ++i)
-        lijst.AddItem(mappen.List(volgorde == 1 ? aantal - 1 - i : i));
 }
 
 void WelkeKaartIsDit(Scherm& scherm, const std::string& kaartcode) {

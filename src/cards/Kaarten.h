@@ -12,7 +12,7 @@ namespace Kaarten {
 
 // Bytes of one record of " informatie.txt", and the number of its records.
 inline constexpr int kRecordLengte = 532;
-inline constexpr int kAantalRecords = 52;
+inline constexpr int kAantalRecords = kaart::kKaarten;
 
 // Path of the chosen deal's file of that suffix, such as " contract.txt".
 std::string bestand(const Gedeeld& gedeeld, const std::string& achtervoegsel);
@@ -37,8 +37,6 @@ void VerdeelDeKaarten(Scherm& scherm, HandLijsten& lijsten);
 // The names of the folder's subfolders, from the first to the last, or the other way with `volgorde` 1.
 void LeesSpellen(Scherm& scherm, forms::ListBox& lstSpellen, forms::DirListBox& mappen, const std::string& map,
                  int volgorde);
-// The same into any list, without a failure path of its own.
-void vul_met_mappen(forms::ListBox& lijst, forms::DirListBox& mappen, const std::string& map, int volgorde);
 
 // Leaves suit letter (lower case), value letter and both with a blank between in kleurLetter, waardeLetter and
 // kaartTekst.

@@ -1,40 +1,39 @@
 #include "cards/Lijsten.h"
 
+#include <string>
+
+#include "cards/PerPlaats.h"
+
 namespace {
 
-forms::Rect nowhere(int) { return {}; }
+HandLijsten::PerHand per_hand(forms::Container& screen, const std::string& name) {
+    HandLijsten::PerHand lists(screen, name, kaart::kPlaatsen.front(), kaart::kPlaatsen.back(),
+                               [](int) { return forms::Rect{}; });
+    lists.each([](forms::ListBox& list) {
+        list.Visible = false;
+        list.Sorted = true;
+    });
+    return lists;
+}
 
 }  // namespace
 
-HandLijsten::HandLijsten(forms::Container& screen)
-    : lstAfTavrin(screen, "lstAfTavrin"),
-      lstHand(screen, "lstHand", 1, 4, nowhere),
-      lstSchoppen(screen, "lstSchoppen", 1, 4, nowhere),
-      lstHarten(screen, "lstHarten", 1, 4, nowhere),
-      lstRuiten(screen, "lstRuiten", 1, 4, nowhere),
-      lstKlaveren(screen, "lstKlaveren", 1, 4, nowhere),
-      lstKaarten(screen, "lstKaarten") {
-    for (auto* lists : {&lstHand, &lstSchoppen, &lstHarten, &lstRuiten, &lstKlaveren}) {
-        lists->each([](forms::ListBox& list) {
-            list.Visible = false;
-            list.Sorted = true;
-        });
-    }
+kaart::PerKleur<forms::ListBox> sorted_lists_by_suit(forms::Container& screen, const std::string& prefix) {
+    return kaart::PerKleur<forms::ListBox>([&](kaart::Kleur kleur) {
+        return forms::ListBox(screen, prefix + kaart::gegevens(kleur).naam, forms::ListBox::Order::Sorted);
+    });
 }
 
-forms::ListBox& HandLijsten::suit(kaart::Kleur kleur, int plaats) {
-    switch (kleur) {
-        case kaart::Kleur::Schoppen: return lstSchoppen(plaats);
-        case kaart::Kleur::Harten: return lstHarten(plaats);
-        case kaart::Kleur::Ruiten: return lstRuiten(plaats);
-        case kaart::Kleur::Klaveren: break;
-    }
-    return lstKlaveren(plaats);
-}
+HandLijsten::HandLijsten(forms::Container& screen)
+    : lstAfTavrin(screen, "lstAfTavrin"),
+      lstHand(per_hand(screen, "lstHand")),
+      lstKleur([&](kaart::Kleur kleur) { return per_hand(screen, std::string("lst") + kaart::gegevens(kleur).naam); }),
+      lstKaarten(screen, "lstKaarten") {}
 
 void HandLijsten::vul_kaarten() {
     lstKaarten.AddItem("");
     for (std::size_t suit = 0; suit < kaart::kKleuren.size(); ++suit) {
-        for (const std::string& word : kaart::waarde_woorden()) lstKaarten.AddItem(word);
+        for (const std::string& word : kaart::waarde_woorden())
+            lstKaarten.AddItem(word);
     }
 }

@@ -1,24 +1,26 @@
 #pragma once
 
-#include "cards/Kaart.h"
+#include <string>
+
+#include "cards/PerKleur.h"
 #include "forms/ControlArray.h"
 #include "forms/ListBox.h"
 
-// String lists that more than one screen owns.
+// A sorted string list for each suit, named by a prefix and the suit.
+kaart::PerKleur<forms::ListBox> sorted_lists_by_suit(forms::Container& screen, const std::string& prefix);
 
-// The play rows of a deal and the hands that come out of them, for a screen to derive from.
+// The play rows of a deal and the hands that come out of them: string lists that two screens have. A seat that is none
+// is failure 340, as in any array of controls.
 struct HandLijsten {
     explicit HandLijsten(forms::Container& screen);
 
-    forms::ListBox lstAfTavrin;
-    forms::ControlArray<forms::ListBox> lstHand;  // by seat, 1 to 4, sorted, as those below
-    forms::ControlArray<forms::ListBox> lstSchoppen;
-    forms::ControlArray<forms::ListBox> lstHarten;
-    forms::ControlArray<forms::ListBox> lstRuiten;
-    forms::ControlArray<forms::ListBox> lstKlaveren;
-    forms::ListBox lstKaarten;  // value words by card number; item 0 is a placeholder
+    using PerHand = forms::ControlArray<forms::ListBox>;  // by seat, 1 to 4, sorted
 
-    forms::ListBox& suit(kaart::Kleur kleur, int plaats);
+    forms::ListBox lstAfTavrin;
+    PerHand lstHand;
+    kaart::PerKleur<PerHand> lstKleur;  // lstSchoppen, lstHarten, lstRuiten, lstKlaveren
+    forms::ListBox lstKaarten;          // value words by card number; item 0 is a placeholder
+
     // Fills lstKaarten: an empty item, then the thirteen value words four times.
     void vul_kaarten();
 };

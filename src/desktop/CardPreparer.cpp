@@ -3,19 +3,20 @@
 #include <QGuiApplication>
 
 #include "desktop/QtHost.h"
+#include "resources/Plaatje.h"
 
 namespace desktop {
 
 namespace {
 // The large faces and, behind them, the back.
-constexpr int kFirst = 2201;
-constexpr int kLast = 2253;
+constexpr int kFirst = resources::plaatje::kGroteKaarten + 1;
+constexpr int kLast = resources::plaatje::kKaartRug;
 constexpr int kMilliseconds = 15;  // between two of them
 }  // namespace
 
 CardPreparer::CardPreparer(QtHost& host) : host_(host), next_(kLast) {
     connect(this, &QTimer::timeout, this, [this] { prepare_next(); });
-    start(kMilliseconds);
+    connect(&host.first_painted(), &QTimer::timeout, this, [this] { start(kMilliseconds); });
 }
 
 void CardPreparer::prepare_next() {

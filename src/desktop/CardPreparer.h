@@ -6,7 +6,8 @@ namespace desktop {
 
 class QtHost;
 
-// Renders the cards one by one while the program waits for the user, so that no card has to be drawn when it is turned.
+// Renders the cards one by one once the first window stands, while the program waits for the user, so that no card has
+// to be drawn when it is turned. Is made before that window.
 class CardPreparer final : public QTimer {
 public:
     explicit CardPreparer(QtHost& host);

@@ -9,8 +9,8 @@
 #include "desktop/QtHost.h"
 #include "desktop/Text.h"
 #include "desktop/Ticker.h"
-#include "desktop/View.h"
-#include "desktop/Views.h"
+#include "desktop/views/View.h"
+#include "desktop/views/Views.h"
 #include "forms/Timer.h"
 #include "forms/User.h"
 #include "forms/Windows.h"
@@ -30,7 +30,7 @@ FormWindow::FormWindow(QtHost& host, forms::Form& form) : host_(host), form_(for
 
 FormWindow::~FormWindow() = default;
 
-View* FormWindow::view(const forms::Control& control) const {
+views::View* FormWindow::view(const forms::Control& control) const {
     const auto found = views_.find(&control);
     return found == views_.end() ? nullptr : found->second.get();
 }
@@ -63,15 +63,15 @@ FormWindow::Shown FormWindow::show_control(forms::Control& control) {
         show_timer(*timer);
         return Shown::Before;
     }
-    if (View* shown = view(control)) {
+    if (views::View* shown = view(control)) {
         shown->refresh();
         return Shown::Before;
     }
     QWidget* parent = surface(control.container());
     if (!control.Visible() || !parent) return Shown::Before;
-    std::unique_ptr<View> made = make_view(*this, control, parent);
+    std::unique_ptr<views::View> made = views::make_view(*this, control, parent);
     if (!made) return Shown::Before;
-    View& added = *views_.emplace(&control, std::move(made)).first->second;
+    views::View& added = *views_.emplace(&control, std::move(made)).first->second;
     if (auto* container = dynamic_cast<forms::Container*>(&control)) show_controls(*container);
     added.refresh();
     if (added.widget().focusPolicy() & Qt::TabFocus) tab_stops_changed_ = true;
@@ -86,7 +86,7 @@ void FormWindow::show_controls(const forms::Container& container) {
 QWidget* FormWindow::surface(const forms::Container& container) {
     const forms::Control* control = const_cast<forms::Container&>(container).as_control();
     if (!control) return this;
-    const View* shown = view(*control);
+    const views::View* shown = view(*control);
     return shown ? &shown->widget() : nullptr;
 }
 
@@ -103,7 +103,7 @@ void FormWindow::restack(const forms::Container& container) {
     if (!parent) return;
     std::vector<QWidget*> wanted;
     for (const forms::Control* control : container.children()) {
-        if (const View* shown = view(*control)) wanted.push_back(&shown->widget());
+        if (const views::View* shown = view(*control)) wanted.push_back(&shown->widget());
     }
     std::vector<QWidget*> present;
     for (QObject* child : parent->children()) {
@@ -126,7 +126,7 @@ void FormWindow::order_tab_stops() {
     tab_stops_changed_ = false;
     QWidget* previous = nullptr;
     for (const forms::Control* control : form_.controls()) {
-        const View* shown = view(*control);
+        const views::View* shown = view(*control);
         if (!shown || !(shown->widget().focusPolicy() & Qt::TabFocus)) continue;
         if (previous) setTabOrder(previous, &shown->widget());
         previous = &shown->widget();
@@ -195,7 +195,7 @@ void FormWindow::show_place() {
 // A control that cannot have it now leaves it with nobody: the widget that Qt goes on to was chosen by no one.
 void FormWindow::give_focus() {
     if (!form_.focus()) return;
-    const View* shown = view(*form_.focus());
+    const views::View* shown = view(*form_.focus());
     QWidget* wanted = shown ? &shown->widget() : nullptr;
     if (wanted && !(wanted->isVisibleTo(this) && wanted->isEnabledTo(this))) wanted = nullptr;
     if (focusWidget() == wanted) return;
@@ -221,7 +221,9 @@ void FormWindow::act(const std::function<void()>& event) {
 
 bool FormWindow::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate && !retired_) host_.activated(*this);
-    return QWidget::event(event);
+    const bool taken = QWidget::event(event);
+    if (event->type() == QEvent::Paint) host_.painted();
+    return taken;
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

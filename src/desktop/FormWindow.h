@@ -19,7 +19,10 @@ namespace desktop {
 
 class QtHost;
 class Ticker;
+
+namespace views {
 class View;
+}
 
 // The window of one form. A control gets its widget when it is first seen by the user; what is never seen costs
 // nothing.
@@ -45,7 +48,7 @@ public:
     bool key_event(const QWidget& receiver, const QKeyEvent& event);
 
     // The view of a control; null as long as it has none.
-    View* view(const forms::Control& control) const;
+    views::View* view(const forms::Control& control) const;
 
 protected:
     bool event(QEvent* event) override;
@@ -70,7 +73,7 @@ private:
 
     QtHost& host_;
     forms::Form& form_;
-    std::unordered_map<const forms::Control*, std::unique_ptr<View>> views_;
+    std::unordered_map<const forms::Control*, std::unique_ptr<views::View>> views_;
     std::unordered_map<const forms::Timer*, std::unique_ptr<Ticker>> tickers_;
     std::set<int> keys_down_;
     QRect shown_place_;

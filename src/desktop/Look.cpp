@@ -39,6 +39,8 @@ QFont screen_font(double points, bool bold, double zoom) {
     return font;
 }
 
+void find_screen_font() { family(); }
+
 QFont screen_font(const forms::Control& control, double zoom) {
     return screen_font(control.FontSize, control.FontBold, zoom);
 }

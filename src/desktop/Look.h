@@ -31,6 +31,9 @@ QColor colour(Colour colour);
 // Verdana where it is installed, otherwise DejaVu Sans; sized as at 96 dpi whatever the screen's own value is.
 QFont screen_font(double points, bool bold, double zoom);
 QFont screen_font(const forms::Control& control, double zoom);
+// Finds the font; the first that asks waits for the machine's fonts to be looked through. May run beside the main
+// thread.
+void find_screen_font();
 
 // The width in logical pixels that the core counts for one line; a mark `&` has no width.
 double core_width(std::string_view line, const forms::Control& control, double zoom);

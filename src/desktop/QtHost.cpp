@@ -32,7 +32,9 @@ double fitting_zoom() {
 
 }  // namespace
 
-QtHost::QtHost(std::optional<double> zoom) : scale_(zoom ? *zoom : fitting_zoom()), title_height_(kUsualTitleHeight) {}
+QtHost::QtHost(std::optional<double> zoom) : scale_(zoom ? *zoom : fitting_zoom()), title_height_(kUsualTitleHeight) {
+    first_painted_.setSingleShot(true);
+}
 
 QtHost::~QtHost() {
     close_all();
@@ -78,8 +80,8 @@ void QtHost::dispatch_ended(forms::Windows& windows) {
 void QtHost::flush() {
     if (!windows_) return;
     for (forms::Form* form : windows_->loaded()) {
-        FormWindow*& window = form_windows_[form];
-        if (!window) window = new FormWindow(*this, *form);
+        OwnedWindow& window = form_windows_[form];
+        if (!window) window.reset(new FormWindow(*this, *form));
         window->flush();
     }
 }
@@ -99,13 +101,13 @@ void QtHost::repaint(forms::Form& form) {
 }
 
 void QtHost::closing(forms::Form& form) {
-    FormWindow* gone = window(&form);
-    if (!gone) return;
-    form_windows_.erase(&form);
-    if (raised_ == gone) raised_ = nullptr;
+    const auto found = form_windows_.find(&form);
+    if (found == form_windows_.end()) return;
+    if (raised_ == found->second.get()) raised_ = nullptr;
     if (repainted_ == &form) repainted_ = nullptr;
-    gone->retire();
-    retired_.push_back(gone);
+    found->second->retire();
+    retired_.push_back(std::move(found->second));
+    form_windows_.erase(found);
 }
 
 void QtHost::process_events(forms::Windows& windows) {
@@ -115,26 +117,26 @@ void QtHost::process_events(forms::Windows& windows) {
 }
 
 void QtHost::close_all() {
-    for (const auto& [form, window] : form_windows_) {
+    for (auto& [form, window] : form_windows_) {
         window->retire();
-        retired_.push_back(window);
+        retired_.push_back(std::move(window));
     }
     form_windows_.clear();
     raised_ = nullptr;
     close_retired();
 }
 
-// They vanish only when the window that takes their place stands, and are deleted when no event is under way in them.
+// They vanish only when the window that takes their place stands.
 void QtHost::close_retired() {
-    for (FormWindow* window : std::exchange(retired_, {})) {
+    for (const OwnedWindow& window : std::exchange(retired_, {}))
         window->hide();
-        window->deleteLater();
-    }
 }
+
+void QtHost::DeleteLater::operator()(FormWindow* window) const { window->deleteLater(); }
 
 FormWindow* QtHost::window(const forms::Form* form) const {
     const auto found = form_windows_.find(form);
-    return found == form_windows_.end() ? nullptr : found->second;
+    return found == form_windows_.end() ? nullptr : found->second.get();
 }
 
 FormWindow* QtHost::front() const { return windows_ ? window(windows_->active()) : nullptr; }
@@ -146,6 +148,10 @@ void QtHost::raise_active() {
     raised_since_.start();
     active->raise();
     active->activateWindow();
+}
+
+void QtHost::painted() {
+    if (!std::exchange(a_window_was_painted_, true)) first_painted_.start(0);
 }
 
 // A window manager answers late: a window that was the active one for a moment, on the way to the one that was asked

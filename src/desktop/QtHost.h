@@ -2,11 +2,14 @@
 
 #include <QElapsedTimer>
 #include <QPoint>
+#include <QTimer>
 #include <functional>
+#include <future>
 #include <memory>
 #include <optional>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "desktop/Look.h"
 #include "desktop/PictureCache.h"
@@ -42,6 +45,9 @@ public:
     // False: the timers don't tick by themselves.
     bool own_time = true;
 
+    // Its timeout comes once, when the first window has been painted: what can wait for that waits for it.
+    QTimer& first_painted() { return first_painted_; }
+
     const Scale& scale() const { return scale_; }
     PictureCache& pictures() { return pictures_; }
     QPoint screen_corner() const;  // of the part of the screen that windows may use
@@ -50,6 +56,8 @@ public:
     void act(const std::function<void()>& event);
     // Runs it although an event is running: keys that the program itself sends.
     void act_within_event(const std::function<void()>& event);
+    // A window was painted.
+    void painted();
     // The window system made the window the active one.
     void activated(FormWindow& window);
 
@@ -63,18 +71,28 @@ public:
     void close_all();
 
 private:
+    // A window is never deleted while an event is under way in it.
+    struct DeleteLater {
+        void operator()(FormWindow* window) const;
+    };
+    using OwnedWindow = std::unique_ptr<FormWindow, DeleteLater>;
+
     void raise_active();
     void close_retired();
 
+    // The fonts are looked through while the program sets up its folders and asks the network.
+    std::future<void> font_ = std::async(std::launch::async, find_screen_font);
     Scale scale_;
     PictureCache pictures_;
     forms::Windows* windows_ = nullptr;
-    std::unordered_map<const forms::Form*, FormWindow*> form_windows_;
-    std::vector<FormWindow*> retired_;
+    std::unordered_map<const forms::Form*, OwnedWindow> form_windows_;
+    std::vector<OwnedWindow> retired_;  // of forms that are gone, as long as they are seen
     FormWindow* raised_ = nullptr;
     QElapsedTimer raised_since_;
     const forms::Form* repainted_ = nullptr;  // the form that asked for it last
     QElapsedTimer repainted_since_;
+    QTimer first_painted_;
+    bool a_window_was_painted_ = false;
     bool within_event_ = false;
     mutable int title_height_;  // what the window manager adds above a window
 };

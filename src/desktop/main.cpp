@@ -1,32 +1,23 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
-#include <QIcon>
 #include <QMessageBox>
+#include <QScreen>
 #include <cstdlib>
 #include <exception>
 
 #include "app/Start.h"
 #include "desktop/CardPreparer.h"
-#include "desktop/PictureCache.h"
+#include "desktop/ProgramIcon.h"
 #include "desktop/QtHost.h"
-#include "desktop/QtPlatform.h"
 #include "desktop/Style.h"
 #include "desktop/Text.h"
 #include "desktop/Words.h"
+#include "desktop/system/QtPlatform.h"
 #include "platform/Paths.h"
-#include "resources/Icon.h"
 #include "services/Programma.h"
 
 namespace {
-
-QIcon program_icon() {
-    QIcon icon;
-    for (const int size : resources::kIconSizes) {
-        icon.addPixmap(desktop::PictureCache::render(resources::draw_icon(size), 1, 1));
-    }
-    return icon;
-}
 
 // The folder given, or none.
 std::string program_folder(const QApplication& application) {
@@ -54,11 +45,14 @@ int main(int argc, char** argv) {
     QApplication::setStyle(new desktop::Style);
     QApplication::setPalette(desktop::Style::colours());
     QApplication::setApplicationName(desktop::words::kProgram);
-    QApplication::setWindowIcon(program_icon());
     QApplication::setQuitOnLastWindowClosed(false);
 
     desktop::QtHost host;
-    desktop::QtPlatform platform(host, program_folder(application));
+    QObject::connect(&host.first_painted(), &QTimer::timeout, [] {
+        QApplication::setWindowIcon(desktop::program_icon(QGuiApplication::primaryScreen()->depth()));
+    });
+    const desktop::CardPreparer preparer(host);
+    desktop::system::QtPlatform platform(host, program_folder(application));
     Programma programma(platform, host);
     host.attach(programma.windows);
     host.Ended = [] { QCoreApplication::quit(); };
@@ -69,7 +63,6 @@ int main(int argc, char** argv) {
         end_by_failure(failure.what());
         return EXIT_FAILURE;
     }
-    const desktop::CardPreparer preparer(host);
     const int status = programma.windows.ended() ? EXIT_SUCCESS : QApplication::exec();
     host.close_all();
     return status;

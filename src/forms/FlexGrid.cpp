@@ -28,8 +28,8 @@ void FlexGrid::SetText(const std::string& text) {
     changed();
 }
 
-void FlexGrid::SetCellBackColor(Colour colour) {
-    at(Row, Col).colour = colour;
+void FlexGrid::SetCellBackColor(int row, int col, Colour colour) {
+    at(row, col).colour = colour;
     changed();
 }
 

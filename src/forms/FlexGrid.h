@@ -30,7 +30,8 @@ public:
     const std::string& Text() const { return cell(Row, Col).text; }
     void SetText(const std::string& text);
     Colour CellBackColor() const { return cell(Row, Col).colour; }
-    void SetCellBackColor(Colour colour);
+    void SetCellBackColor(Colour colour) { SetCellBackColor(Row, Col, colour); }
+    void SetCellBackColor(int row, int col, Colour colour);
     void SetCellAlignment(CellAlignment alignment);
 
     struct Cell {

@@ -15,7 +15,6 @@ enum class Match { Prefix, Exact };
 class ListBox final : public Control {
 public:
     enum class Order { AsAdded, Sorted };
-    enum class Selection { One, Many };
 
     ListBox(Container& container, std::string name, const Rect& place, int index = kNoIndex);
     // A hidden string list.
@@ -46,8 +45,8 @@ public:
     // The first line that begins with the text, or equals it, without regard to case; -1 if there is none.
     int find(std::string_view text, Match match) const;
 
-    // What a user's click does: makes the line current, or toggles it; raises Click always. A line that is not there any
-    // more is current only as long as Click runs, so that the routine fails that reads it.
+    // What a user's click does: makes the line current, or toggles it; raises Click always. A line that is not there
+    // any more is current only as long as Click runs, so that the routine fails that reads it.
     void user_select(int line);
 
     // Goes up whenever the lines change, so that a host can tell that from a change of the selection.

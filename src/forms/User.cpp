@@ -69,14 +69,19 @@ Refusal type_all(TextBox& box, const std::string& text) {
     return act_on(box, [&] {
         box.SetFocus();
         if (box.form().focus() != &box) return;
-        box.SelStart = 0;
-        box.SelLength = static_cast<int>(box.Text().size());
+        select_text(box, 0, static_cast<int>(box.Text().size()));
         box.user_type(text);
     });
 }
 
-Refusal edited(TextBox& box, const std::string& text) {
-    return act_on(box, [&] { box.Text = text; });
+void select_text(TextBox& box, int start, int length) {
+    box.SelStart = start;
+    box.SelLength = length;
+}
+
+bool press(TextBox& box, char key) {
+    if (box.KeyPress) box.form().windows().dispatch([&] { box.KeyPress(key); });
+    return key != 0;
 }
 
 Refusal scroll(VScrollBar& bar, int value) {

@@ -29,8 +29,10 @@ Refusal select(ListBox& list, int line);
 // Types at the selection, or over the whole text. A line break is CR LF or LF.
 Refusal type(TextBox& box, const std::string& text);
 Refusal type_all(TextBox& box, const std::string& text);
-// The host's own text widget was edited, within KeyPress and MaxLength.
-Refusal edited(TextBox& box, const std::string& text);
+// Moves the selection of a box, as its keys and the mouse do; positions are characters from 0.
+void select_text(TextBox& box, int start, int length);
+// A key that puts no character in, such as Backspace. False if the box's key filter drops it.
+bool press(TextBox& box, char key);
 // A value beyond the ends of the bar stops there.
 Refusal scroll(VScrollBar& bar, int value);
 Refusal focus(Control& control);

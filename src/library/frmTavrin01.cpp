@@ -16,7 +16,8 @@ constexpr const char* kWerkmap = "C:\\";
 
 }  // namespace
 
-frmTavrin01::frmTavrin01(Programma& programma) : Scherm(programma, "frmTavrin01", kInner) {
+frmTavrin01::frmTavrin01(Programma& programma)
+    : Scherm(programma, "frmTavrin01", kInner, {.query_unload = "frmTavrin01 - Form - QueryUnload"}) {
     picLogo.Picture = {0, "logo"};
     picLogo.Opaque = false;
     imaDeMaker.Picture = {0, "maker"};
@@ -28,20 +29,14 @@ frmTavrin01::frmTavrin01(Programma& programma) : Scherm(programma, "frmTavrin01"
         klein->FontSize = 6.75;
     lblVersie.AutoSize = true;
 
-    const auto toon = [this](const std::string& knop, const std::string& scherm) {
-        return [=, this] {
-            Foutpad("frmTavrin01 - " + knop + " - Click", [&] { this->programma.schermen.toon(scherm); });
-        };
+    cmdNieuwSpel.Click = [this] {
+        Foutpad("frmTavrin01 - cmdNieuwSpel - Click", [this] { this->programma.schermen.toon("frmTavrin03"); });
     };
-    const auto vervang = [this](const std::string& knop, const std::string& scherm) {
-        return [=, this] { open_in_plaats(knop, scherm); };
-    };
-    cmdNieuwSpel.Click = toon("cmdNieuwSpel", "frmTavrin03");
-    cmdHerbeNoem.Click = vervang("cmdHerbeNoem", "frmTavrin04");
-    cmdKaartenEditor.Click = vervang("cmdKaartenEditor", "frmTavrin05");
-    cmdImportExport.Click = vervang("cmdImportExport", "frmTavrin07");
+    cmdHerbeNoem.Click = [this] { open_in_plaats("frmTavrin01 - cmdHerbeNoem - Click", "frmTavrin04"); };
+    cmdKaartenEditor.Click = [this] { open_in_plaats("frmTavrin01 - cmdKaartenEditor - Click", "frmTavrin05"); };
+    cmdImportExport.Click = [this] { open_in_plaats("frmTavrin01 - cmdImportExport - Click", "frmTavrin07"); };
     cmdTavrin.Click = [this] {
-        Foutpad("frmTavrin01 - cmdTavrin - Click", [&] {
+        Foutpad("frmTavrin01 - cmdTavrin - Click", [this] {
             this->programma.schermen.toon("frmTavrin02");
             Form_QueryUnload();
         });
@@ -61,7 +56,7 @@ void frmTavrin01::Form_Load() {
         if (Bas_Aftavrin::BestandStatus(help) == 1) {
             windows().Help = [&platform = programma.platform, help] { platform.show_help(help); };
         }
-        gedeeld.kaartRugId = 2253;
+        gedeeld.kaartRugId = resources::plaatje::kKaartRug;
         zet_opschriften();
         zet_buiten_beeld(cmdFocus);
         centreer();
@@ -74,22 +69,22 @@ void frmTavrin01::Form_Load() {
 }
 
 void frmTavrin01::zet_opschriften() {
-    Caption = LeesResString(10001) + " " + LeesResString(10002);
+    Caption = LeesResString(Bericht::ProgrammaNaam) + " " + LeesResString(Bericht::ProgrammaVervolg);
     lblInfo.Caption = Caption();
-    lblCopyRight.Caption = LeesResString(3);
-    fraSpellen.Caption = LeesResString(4);
-    cmdWissen.Caption = "&" + LeesResString(5);
-    cmdTavrin.Caption = "&" + LeesResString(6);
-    cmdAfsluiten.Caption = "&" + LeesResString(7);
-    cmdDownLoaden.Caption = "&" + LeesResString(8);
-    chkSorteer.Caption = LeesResString(9);
-    cmdNieuwSpel.Caption = "&" + LeesResString(11);
-    cmdHerbeNoem.Caption = "&" + LeesResString(53);
-    cmdKaartenEditor.Caption = "&" + LeesResString(57);
-    cmdImportExport.Caption = "&" + LeesResString(75);
-    lblVersie.Caption = LeesResString(12) + " (" + std::to_string(ZANDOLIN_MAJOR) + "." +
+    lblCopyRight.Caption = LeesResString(Bericht::Copyright);
+    fraSpellen.Caption = LeesResString(Bericht::Spellen);
+    cmdWissen.Caption = "&" + LeesResString(Bericht::Wissen);
+    cmdTavrin.Caption = "&" + LeesResString(Bericht::Tavrin);
+    cmdAfsluiten.Caption = "&" + LeesResString(Bericht::Afsluiten);
+    cmdDownLoaden.Caption = "&" + LeesResString(Bericht::Downloaden);
+    chkSorteer.Caption = LeesResString(Bericht::SorteerHoogLaag);
+    cmdNieuwSpel.Caption = "&" + LeesResString(Bericht::NieuwSpel);
+    cmdHerbeNoem.Caption = "&" + LeesResString(Bericht::Herbenoem);
+    cmdKaartenEditor.Caption = "&" + LeesResString(Bericht::Editor);
+    cmdImportExport.Caption = "&" + LeesResString(Bericht::ImportExport);
+    lblVersie.Caption = LeesResString(Bericht::Versie) + " (" + std::to_string(ZANDOLIN_MAJOR) + "." +
                         std::to_string(ZANDOLIN_MINOR) + "." + std::to_string(ZANDOLIN_REVISION) + ") ";
-    lblDeMaker.Caption = LeesResString(10051);
+    lblDeMaker.Caption = LeesResString(Bericht::DeMaker);
     lblRVLX.Caption = "";
 }
 
@@ -114,7 +109,7 @@ void frmTavrin01::Form_Activate() {
         cmdNieuwSpel.Enabled = gevonden;
         cmdKaartenEditor.Enabled = gevonden;
         cmdImportExport.Enabled = true;
-        lblRVLX.Caption = gevonden ? std::string() : LeesResString(102);
+        lblRVLX.Caption = gevonden ? std::string() : LeesResString(Bericht::GeenRVLX);
         lblRVLX.ForeColor = gevonden ? kGroen : kRood;
         // These wait for a line to be chosen.
         cmdHerbeNoem.Enabled = false;
@@ -143,7 +138,7 @@ void frmTavrin01::chkSorteer_Click() {
         cmdHerbeNoem.Enabled = false;
         cmdWissen.Enabled = false;
         cmdTavrin.Enabled = false;
-        chkSorteer.Caption = chkSorteer.Caption == LeesResString(10009) ? LeesResString(10010) : LeesResString(10009);
+        wissel_opschrift(chkSorteer);
         lees_spellen();
         cmdFocus.SetFocus();
     });
@@ -172,8 +167,8 @@ void frmTavrin01::cmdWissen_Click() {
         cmdHerbeNoem.Enabled = false;
         cmdTavrin.Enabled = false;
         filFiles.Path = programma.pakket(lstSpellen.Text());
-        const Answer antwoord = programma.platform.message_box(box_style::kQuestion, Caption(),
-                                                               replaced(LeesResString(10056), "~", lstSpellen.Text()));
+        const Answer antwoord = programma.platform.message_box(
+            box_style::kQuestion, Caption(), replaced(LeesResString(Bericht::SpelWissen), "~", lstSpellen.Text()));
         if (antwoord == Answer::Yes) {
             wis_spel();
         } else {
@@ -209,7 +204,7 @@ void frmTavrin01::cmdDownLoaden_Click() {
             return;
         }
         Visible = true;
-        programma.platform.message_box(box_style::kInformation, Caption(), LeesResString(10066));
+        programma.platform.message_box(box_style::kInformation, Caption(), LeesResString(Bericht::InstallatieStart));
         // One argument as a whole, its name included.
         programma.platform.open(installatie, "\"/p=" + programma.platform.program_folder() + "\"", kWerkmap);
         beeindig_programma();
@@ -224,15 +219,16 @@ bool frmTavrin01::haal_installatie(const std::string& bestand) {
 }
 
 void frmTavrin01::meld_geen_update() {
-    const std::string bericht = replaced(LeesResString(gedeeld.internetOk ? 10105 : 10067), "|", "\n");
+    const std::string bericht =
+        replaced(LeesResString(gedeeld.internetOk ? Bericht::GeenUpdateNaarWebsite : Bericht::GeenUpdate), "|", "\n");
     const int stijl = gedeeld.internetOk ? box_style::kInformationYesNo : box_style::kInformation;
     if (programma.platform.message_box(stijl, Caption(), bericht) != Answer::Yes) return;
     programma.platform.open(
         "https://" + Bas_Aftavrin::Server(programma) + "/download/download-software/zandolin-lomert", "", kWerkmap);
 }
 
-void frmTavrin01::open_in_plaats(const std::string& knop, const std::string& scherm) {
-    Foutpad("frmTavrin01 - " + knop + " - Click", [&] {
+void frmTavrin01::open_in_plaats(const char* plaats, const char* scherm) {
+    Foutpad(plaats, [&] {
         Hide();
         programma.schermen.toon(scherm);
     });
@@ -242,8 +238,4 @@ void frmTavrin01::Form_KeyUp(int key_code) {
     Foutpad("frmTavrin01 - Form - KeyUp", [&] {
         if (key_code == forms::kKeyEscape) beeindig_programma();
     });
-}
-
-void frmTavrin01::Form_QueryUnload() {
-    Foutpad("frmTavrin01 - Form - QueryUnload", [&] { Unload(); });
 }

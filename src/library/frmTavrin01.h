@@ -13,13 +13,15 @@
 
 // The main screen: the list of packages, and the way to every other screen. Choosing a line publishes the deal's
 // folder and name to the rest of the program.
+//
+// filFiles.Path is the folder that is to be deleted: cmdWissen_Click writes it, wis_spel reads it. chkSorteer.Caption,
+// what its next click does, is the order's only memory: chkSorteer_Click writes and reads it.
 class frmTavrin01 final : public Scherm {
 public:
     explicit frmTavrin01(Programma& programma);
     void Form_Load() override;
     void Form_Activate() override;
     void Form_KeyUp(int key_code) override;
-    void Form_QueryUnload() override;
 
     forms::PictureBox picLogo{*this, "picLogo", {255, 165, 3120, 810}};
     forms::Image imaDeMaker{*this, "imaDeMaker", {1027, 1035, 1650, 1650}};
@@ -44,6 +46,7 @@ public:
     forms::FileListBox filFiles{*this, "filFiles", {3450, 2220, 735, 285}};
 
 private:
+    void verlaat() override {}  // what follows stands there already
     void zet_opschriften();
     void BestaatRVLX();
     void test_verbinding();
@@ -56,7 +59,7 @@ private:
     bool haal_installatie(const std::string& bestand);
     void meld_geen_update();
     // Hides this screen and shows the other.
-    void open_in_plaats(const std::string& knop, const std::string& scherm);
+    void open_in_plaats(const char* plaats, const char* scherm);
 
     std::string RVLXPad;  // program-files folder that holds the companion; empty when it was not found
 };

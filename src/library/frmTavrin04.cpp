@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "base/Zolang.h"
-#include "cards/Kaarten.h"
 #include "library/frmTavrin01.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
@@ -45,22 +44,30 @@ std::string vervangen(const std::string& tekst, const std::string& oud, const st
 
 }  // namespace
 
-frmTavrin04::frmTavrin04(Programma& programma) : Scherm(programma, "frmTavrin04", kInner) {
+frmTavrin04::frmTavrin04(Programma& programma)
+    : Scherm(programma, "frmTavrin04", kInner,
+             {.key_up = "frmTavrin04 - Form - KeyUp",
+              .terug = "frmTavrin04 - cmdTerug - Click",
+              .query_unload = "frmTavrin04 - Form - QueryUnload"}) {
     for (forms::VScrollBar* balk : {&vscrSpelNummer, &vscrEigenSpelnummer}) {
         balk->Min = -1;
         balk->Max = kHoogsteNummer + 1;
     }
     cmdHerbenoem.Enabled = false;
 
-    stel_reeks_in({"SpelNummer", txtSpelNummer, vscrSpelNummer, txtEigenSpelnummer});
-    stel_reeks_in({"EigenSpelnummer", txtEigenSpelnummer, vscrEigenSpelnummer, txtSpelNummer});
+    stel_reeks_in({"frmTavrin04 - txtSpelNummer - Change", "frmTavrin04 - vscrSpelNummer - Change", txtSpelNummer,
+                   vscrSpelNummer, txtEigenSpelnummer});
+    stel_reeks_in({"frmTavrin04 - txtEigenSpelnummer - Change", "frmTavrin04 - vscrEigenSpelnummer - Change",
+                   txtEigenSpelnummer, vscrEigenSpelnummer, txtSpelNummer});
     txtSpelNummer.KeyPress = [](char& toets) {
         if (std::string_view("1234567890\b\r\t").find(toets) == std::string_view::npos) toets = 0;
     };
-    chkSorteerTavrin.Click = [this] { chkSorteerTavrin_Click(); };
+    chkSorteerTavrin.Click = [this] {
+        sorteer("frmTavrin04 - chkSorteerTavrin - Click", chkSorteerTavrin, [this] { LeesAfTavrinSpellen(); });
+    };
     lstAfTavrin.Click = [this] { lstAfTavrin_Click(); };
     cmdHerbenoem.Click = [this] { cmdHerbenoem_Click(); };
-    cmdTerug.Click = [this] { Foutpad("frmTavrin04 - cmdTerug - Click", [&] { Form_QueryUnload(); }); };
+    cmdTerug.Click = [this] { cmdTerug_Click(); };
 }
 
 void frmTavrin04::stel_reeks_in(const Reeks& reeks) {
@@ -70,16 +77,16 @@ void frmTavrin04::stel_reeks_in(const Reeks& reeks) {
 
 void frmTavrin04::Form_Load() {
     Foutpad("frmTavrin04 - Form - Load", [&] {
-        Caption = LeesResString(53);
-        fraTavrin.Caption = LeesResString(6);
+        Caption = LeesResString(Bericht::Herbenoem);
+        fraTavrin.Caption = LeesResString(Bericht::Tavrin);
         const auto& hoofdscherm = dynamic_cast<frmTavrin01&>(programma.schermen.laad("frmTavrin01"));
-        lblOudNummer.Caption = LeesResString(54) + ": " + hoofdscherm.lstSpellen.Text();
-        fraHerbenoem.Caption = LeesResString(73);
-        lblSpelNummer.Caption = LeesResString(49) + ": QVT_" + LeesResString(13) + " ";
-        fraEigenNaam.Caption = LeesResString(74);
-        lblEigenSpelnummer.Caption = LeesResString(49) + ": " + LeesResString(13) + " ";
-        cmdHerbenoem.Caption = "&" + LeesResString(53);
-        cmdTerug.Caption = "&" + LeesResString(18);
+        lblOudNummer.Caption = LeesResString(Bericht::OudSpelnummer) + ": " + hoofdscherm.lstSpellen.Text();
+        fraHerbenoem.Caption = LeesResString(Bericht::AlleenHetNummer);
+        lblSpelNummer.Caption = LeesResString(Bericht::Spelnummer) + ": QVT_" + LeesResString(Bericht::Spel) + " ";
+        fraEigenNaam.Caption = LeesResString(Bericht::EigenSpelnummer);
+        lblEigenSpelnummer.Caption = LeesResString(Bericht::Spelnummer) + ": " + LeesResString(Bericht::Spel) + " ";
+        cmdHerbenoem.Caption = "&" + LeesResString(Bericht::Herbenoem);
+        cmdTerug.Caption = "&" + LeesResString(Bericht::Terug);
         geef_opschriften_ruimte();
         zet_buiten_beeld(cmdFocus);
         LeesAfTavrinSpellen();
@@ -139,18 +146,7 @@ void frmTavrin04::naar_nummer() {
 
 void frmTavrin04::LeesAfTavrinSpellen() {
     Foutpad("frmTavrin04 - General - LeesAfTavrinSpellen", [&] {
-        std::string map = programma.pakketten();
-        Bas_Aftavrin::MaakPad(map);
-        chkSorteerTavrin.Caption = LeesResString(chkSorteerTavrin.Value == 1 ? 10010 : 10009);
-        Kaarten::vul_met_mappen(lstAfTavrin, dirAftavrin, programma.pakketten(), chkSorteerTavrin.Value);
-    });
-}
-
-void frmTavrin04::chkSorteerTavrin_Click() {
-    Foutpad("frmTavrin04 - chkSorteerTavrin - Click", [&] {
-        if (cmdFocus.Visible) cmdFocus.SetFocus();
-        bewaar_keuze(chkSorteerTavrin);
-        LeesAfTavrinSpellen();
+        toon_mappen({lstAfTavrin, dirAftavrin, chkSorteerTavrin}, programma.pakketten());
     });
 }
 
@@ -164,7 +160,7 @@ void frmTavrin04::lstAfTavrin_Click() {
 }
 
 void frmTavrin04::nummer_veranderd(const Reeks& reeks) {
-    Foutpad(std::string("frmTavrin04 - txt") + reeks.naam + " - Change", [&] {
+    Foutpad(reeks.plaats_van_nummer, [&] {
         if (maaktLeeg) return;
         const bool ingevuld = !trimmed(reeks.nummer.Text()).empty();
         maak_leeg(reeks.andere);
@@ -174,7 +170,7 @@ void frmTavrin04::nummer_veranderd(const Reeks& reeks) {
 }
 
 void frmTavrin04::balk_verschoven(const Reeks& reeks) {
-    Foutpad(std::string("frmTavrin04 - vscr") + reeks.naam + " - Change", [&] {
+    Foutpad(reeks.plaats_van_balk, [&] {
         if (bezigMetLaden) return;
         const int laatste = lstSpelnummers.ListCount() - 1;
         const int regel = reeks.balk.Value;
@@ -207,7 +203,7 @@ void frmTavrin04::cmdHerbenoem_Click() {
             herbenoem(oud, nieuw);
             return;
         }
-        const std::string bericht = replaced(replaced(LeesResString(55), "+", nieuw), "~", oud);
+        const std::string bericht = replaced(replaced(LeesResString(Bericht::NummerBestaatAl), "+", nieuw), "~", oud);
         programma.platform.message_box(box_style::kInformation, Caption(), replaced(bericht, "|", "\n"));
         naar_nummer();
     });
@@ -233,17 +229,4 @@ void frmTavrin04::herbenoem(const std::string& oud, const std::string& nieuw) {
     }
     LeesAfTavrinSpellen();
     txtSpelNummer.Text = "";
-}
-
-void frmTavrin04::Form_KeyUp(int key_code) {
-    Foutpad("frmTavrin04 - Form - KeyUp", [&] {
-        if (key_code == forms::kKeyEscape) Form_QueryUnload();
-    });
-}
-
-void frmTavrin04::Form_QueryUnload() {
-    Foutpad("frmTavrin04 - Form - QueryUnload", [&] {
-        programma.schermen.toon("frmTavrin01");
-        Unload();
-    });
 }

@@ -12,13 +12,17 @@
 #include "services/Scherm.h"
 
 // Gives the deal chosen on the main screen another number: its folder and every text file in it get the new name.
+//
+// What controls remember, beside what they show:
+//
+//   control              holds                         written by    read by
+//   lblOudNummer.Caption the old name, behind ": "     Form_Load     cmdHerbenoem_Click
+//   lstSpelnummers       "999" down to "001"           vul_nummers   balk_verschoven
 class frmTavrin04 final : public Scherm {
 public:
     explicit frmTavrin04(Programma& programma);
     void Form_Load() override;
     void Form_Activate() override;
-    void Form_KeyUp(int key_code) override;
-    void Form_QueryUnload() override;
 
     forms::Frame fraTavrin{*this, "fraTavrin", {90, 150, 3825, 3765}};
     forms::ListBox lstAfTavrin{fraTavrin, "lstAfTavrin", {120, 330, 3555, 2985}};
@@ -35,14 +39,15 @@ public:
     forms::CommandButton cmdHerbenoem{*this, "cmdHerbenoem", {2580, 6150, 1335, 495}};
     forms::CommandButton cmdTerug{*this, "cmdTerug", {90, 6150, 1335, 495}};
     forms::CommandButton cmdFocus{*this, "cmdFocus", {0, 0, 300, 300}};
-    forms::ListBox lstSpelnummers{*this, "lstSpelnummers"};  // "999" down to "001"
+    forms::ListBox lstSpelnummers{*this, "lstSpelnummers"};
     forms::DirListBox dirAftavrin{*this, "dirAftavrin"};
     forms::FileListBox filSpellen{*this, "filSpellen"};
 
 private:
     // A number box, its bar, and the box that it excludes.
     struct Reeks {
-        const char* naam;  // that the place strings end in
+        const char* plaats_van_nummer;  // the place strings of their changes
+        const char* plaats_van_balk;
         forms::TextBox& nummer;
         forms::VScrollBar& balk;
         forms::TextBox& andere;
@@ -53,7 +58,6 @@ private:
     void LeesAfTavrinSpellen();
     int voorstel();
     void vul_nummers(int voorgesteld);
-    void chkSorteerTavrin_Click();
     void lstAfTavrin_Click();
     void nummer_veranderd(const Reeks& reeks);
     void balk_verschoven(const Reeks& reeks);

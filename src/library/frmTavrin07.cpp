@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "cards/Kaarten.h"
 #include "platform/Copies.h"
 #include "platform/Paths.h"
 #include "services/Bas_Aftavrin.h"
@@ -15,16 +14,18 @@ constexpr const char* kMerkVanStick = "[usb-drive]";
 constexpr const char* kMapOpStick = "QVT_Spellen";
 constexpr std::size_t kTegelijk = 100;  // deals that are flushed together
 
-std::string klik_van(const std::string& control) { return "frmTavrin07 - " + control + " - Click"; }
-
 }  // namespace
 
-frmTavrin07::frmTavrin07(Programma& programma) : Scherm(programma, "frmTavrin07", kInner) {
+frmTavrin07::frmTavrin07(Programma& programma)
+    : Scherm(programma, "frmTavrin07", kInner,
+             {.key_up = "frmTavrin07 - Form - KeyUp",
+              .terug = "frmTavrin07 - cmdTerug - Click",
+              .query_unload = "frmTavrin07 - Form - QueryUnload"}) {
     for (const Kant* kant : {&exporteer, &importeer})
         stel_kant_in(*kant);
     cmdCheckVoorUSB.Visible = false;
     cmdCheckVoorUSB.Click = [this] { cmdCheckVoorUSB_Click(); };
-    cmdTerug.Click = [this] { Foutpad(klik_van("cmdTerug"), [&] { Form_QueryUnload(); }); };
+    cmdTerug.Click = [this] { cmdTerug_Click(); };
 }
 
 void frmTavrin07::stel_kant_in(const Kant& kant) {
@@ -49,20 +50,21 @@ void frmTavrin07::Form_Load() {
 }
 
 void frmTavrin07::zet_opschriften() {
-    Caption = LeesResString(75);
-    fraExporTeer.Caption = LeesResString(76) + " " + LeesResString(10001) + " " + LeesResString(10002);
-    fraImporteer.Caption = LeesResString(79);
+    Caption = LeesResString(Bericht::ImportExport);
+    fraExporTeer.Caption = LeesResString(Bericht::ExporteerVan) + " " + LeesResString(Bericht::ProgrammaNaam) + " " +
+                           LeesResString(Bericht::ProgrammaVervolg);
+    fraImporteer.Caption = LeesResString(Bericht::ImporteerVan);
     for (const Kant* kant : {&exporteer, &importeer}) {
-        kant->sorteer.Caption = LeesResString(10009);
-        kant->selecteer.Caption = LeesResString(86);
+        kant->sorteer.Caption = LeesResString(Bericht::SorteerHoogLaag);
+        kant->selecteer.Caption = LeesResString(Bericht::SelecteerAlles);
     }
-    lblUSBStick.Caption = LeesResString(77);
-    lblUSBDrive.Caption = LeesResString(78);
-    lblNaar.Caption = LeesResString(80);
-    cmdExporteer.Caption = "&" + LeesResString(84);
-    cmdImporteer.Caption = "&" + LeesResString(85);
-    cmdCheckVoorUSB.Caption = "&" + LeesResString(81);
-    cmdTerug.Caption = "&" + LeesResString(18);
+    lblUSBStick.Caption = LeesResString(Bericht::NaarUSBStick);
+    lblUSBDrive.Caption = LeesResString(Bericht::Geen);
+    lblNaar.Caption = LeesResString(Bericht::Naar);
+    cmdExporteer.Caption = "&" + LeesResString(Bericht::Exporteer);
+    cmdImporteer.Caption = "&" + LeesResString(Bericht::Importeer);
+    cmdCheckVoorUSB.Caption = "&" + LeesResString(Bericht::ZoekUSBStick);
+    cmdTerug.Caption = "&" + LeesResString(Bericht::Terug);
 }
 
 void frmTavrin07::Form_Activate() {
@@ -86,14 +88,14 @@ bool frmTavrin07::zoek_stick() {
         if (lower_case(regel).find(kMerkVanStick) == std::string::npos) continue;
         lblUSBDrive.Caption = regel;
         usbDrive = regel;
-        fraImporteer.Caption = LeesResString(79) + " " + regel;
+        fraImporteer.Caption = LeesResString(Bericht::ImporteerVan) + " " + regel;
         return true;
     }
     return false;
 }
 
 void frmTavrin07::meld_geen_stick() {
-    programma.platform.message_box(box_style::kInformation, Caption(), LeesResString(82));
+    programma.platform.message_box(box_style::kInformation, Caption(), LeesResString(Bericht::GeenUSBDrive));
 }
 
 std::string frmTavrin07::stick() const {
@@ -118,12 +120,12 @@ void frmTavrin07::LeesExporteer(const Kant& kant) {
         kant.knop.Enabled = false;
         if (map.empty()) return;
         if (&kant == &importeer) refuse_links(stick(), map);
-        Kaarten::vul_met_mappen(kant.lijst, kant.mappen, map, kant.sorteer.Value);
+        vul_met_mappen(kant.lijst, kant.mappen, map, kant.sorteer.Value);
     });
 }
 
 void frmTavrin07::lijst_Click(const Kant& kant) {
-    Foutpad(klik_van(std::string("lst") + kant.naam), [&] {
+    Foutpad(kant.plaatsen.lijst, [&] {
         if (kant.lijst.ListIndex == -1) {
             if (cmdFocus.Visible) cmdFocus.SetFocus();
             return;
@@ -133,17 +135,17 @@ void frmTavrin07::lijst_Click(const Kant& kant) {
 }
 
 void frmTavrin07::chkSelecteer_Click(const Kant& kant) {
-    Foutpad(klik_van(kant.plaatsVanSelecteer), [&] {
-        const bool alles = kant.selecteer.Caption == LeesResString(86);
-        kant.selecteer.Caption = LeesResString(alles ? 87 : 86);
+    Foutpad(kant.plaatsen.selecteer, [&] {
+        const bool alles = kant.selecteer.Caption == LeesResString(Bericht::SelecteerAlles);
+        kant.selecteer.Caption = LeesResString(alles ? Bericht::DeselecteerAlles : Bericht::SelecteerAlles);
         for (int i = 0; i < kant.lijst.ListCount(); ++i)
             kant.lijst.SetSelected(i, alles);
     });
 }
 
 void frmTavrin07::chkSorteer_Click(const Kant& kant) {
-    Foutpad(klik_van(std::string("chkSorteer") + kant.naam), [&] {
-        kant.sorteer.Caption = LeesResString(kant.sorteer.Caption == LeesResString(10009) ? 10010 : 10009);
+    Foutpad(kant.plaatsen.sorteer, [&] {
+        wissel_opschrift(kant.sorteer);
         LeesExporteer(kant);
         // Twice, so that the box's state applies to the new lines.
         chkSelecteer_Click(kant);
@@ -153,7 +155,7 @@ void frmTavrin07::chkSorteer_Click(const Kant& kant) {
 }
 
 void frmTavrin07::cmdCheckVoorUSB_Click() {
-    Foutpad(klik_van("cmdCheckVoorUSB"), [&] {
+    Foutpad("frmTavrin07 - cmdCheckVoorUSB - Click", [&] {
         cmdCheckVoorUSB.Visible = false;
         if (zoek_stick()) {
             LeesExporteer(importeer);
@@ -165,7 +167,7 @@ void frmTavrin07::cmdCheckVoorUSB_Click() {
 }
 
 void frmTavrin07::knop_Click(const Kant& kant) {
-    Foutpad(klik_van(std::string("cmd") + kant.naam), [&] {
+    Foutpad(kant.plaatsen.knop, [&] {
         kant.knop.Enabled = false;
         if (!zoek_stick()) {
             meld_geen_stick();
@@ -228,17 +230,4 @@ void frmTavrin07::kopieer_spel(const std::string& spel, const Kant& kant, const 
     for (int i = 0; i < filFiles.ListCount(); ++i)
         bestanden.push_back(filFiles.List(i));
     kopieen.add_folder(van, bestanden, naar, inlezen ? Links::Refuse : Links::Follow);
-}
-
-void frmTavrin07::Form_KeyUp(int key_code) {
-    Foutpad("frmTavrin07 - Form - KeyUp", [&] {
-        if (key_code == forms::kKeyEscape) Form_QueryUnload();
-    });
-}
-
-void frmTavrin07::Form_QueryUnload() {
-    Foutpad("frmTavrin07 - Form - QueryUnload", [&] {
-        programma.schermen.toon("frmTavrin01");
-        Unload();
-    });
 }

@@ -13,13 +13,19 @@ class Copies;
 
 // Copies deals to a USB stick and from it. The left half lists the deals of this program, the right half those in the
 // folder QVT_Spellen of the stick; a deal is copied as a folder with all its files.
+//
+// What controls remember, beside what they show:
+//
+//   control                    holds                               written by              read by
+//   lstDriveType, lstDriveNaam the roots of the drives, and a line zoek_stick              zoek_stick, stick
+//                              for each
+//   chkSelecteer...Caption     what its next click does            chkSelecteer_Click      the same
+//   chkSorteer...Caption       the same                            chkSorteer_Click        the same
 class frmTavrin07 final : public Scherm {
 public:
     explicit frmTavrin07(Programma& programma);
     void Form_Load() override;
     void Form_Activate() override;
-    void Form_KeyUp(int key_code) override;
-    void Form_QueryUnload() override;
 
     forms::Frame fraExporTeer{*this, "fraExporTeer", {60, 90, 5085, 6105}};
     forms::ListBox lstExporteer{fraExporTeer, "lstExporteer", {180, 330, 4695, 4785}};
@@ -48,19 +54,36 @@ public:
 private:
     // One half of the screen.
     struct Kant {
-        const char* naam;
-        const char* plaatsVanSelecteer;
+        struct Plaatsen {  // the place strings of the clicks
+            const char* lijst;
+            const char* selecteer;
+            const char* sorteer;
+            const char* knop;
+        } plaatsen;
         forms::ListBox& lijst;
         forms::CheckBox& sorteer;
         forms::CheckBox& selecteer;
         forms::CommandButton& knop;
         forms::DirListBox& mappen;
     };
-    const Kant exporteer{"Exporteer",           "chkSelecteerFolder", lstExporteer, chkSorteerExporteer,
-                         chkSelecteerExporteer, cmdExporteer,         dirExporteer};
-    const Kant importeer{"Importeer",         "chkSelecteerImporteer", lstImporteer,
-                         chkSorteerImporteer, chkSelecteerImporteer,   cmdImporteer,
-                         dirImporteer};
+    const Kant exporteer{.plaatsen = {.lijst = "frmTavrin07 - lstExporteer - Click",
+                                      .selecteer = "frmTavrin07 - chkSelecteerFolder - Click",
+                                      .sorteer = "frmTavrin07 - chkSorteerExporteer - Click",
+                                      .knop = "frmTavrin07 - cmdExporteer - Click"},
+                         .lijst = lstExporteer,
+                         .sorteer = chkSorteerExporteer,
+                         .selecteer = chkSelecteerExporteer,
+                         .knop = cmdExporteer,
+                         .mappen = dirExporteer};
+    const Kant importeer{.plaatsen = {.lijst = "frmTavrin07 - lstImporteer - Click",
+                                      .selecteer = "frmTavrin07 - chkSelecteerImporteer - Click",
+                                      .sorteer = "frmTavrin07 - chkSorteerImporteer - Click",
+                                      .knop = "frmTavrin07 - cmdImporteer - Click"},
+                         .lijst = lstImporteer,
+                         .sorteer = chkSorteerImporteer,
+                         .selecteer = chkSelecteerImporteer,
+                         .knop = cmdImporteer,
+                         .mappen = dirImporteer};
 
     void stel_kant_in(const Kant& kant);
     void zet_opschriften();

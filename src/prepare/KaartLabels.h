@@ -1,9 +1,7 @@
 #pragma once
 
-#include <array>
-#include <string>
-
-#include "cards/Kaart.h"
+#include "cards/PerKleur.h"
+#include "cards/PerPlaats.h"
 #include "forms/ControlArray.h"
 #include "forms/Frame.h"
 #include "forms/Label.h"
@@ -13,13 +11,13 @@ namespace prepare {
 
 // The colour of a card label is the recording's only record of a card's state.
 inline constexpr Colour kInHand{0xFFFFFF};
-inline constexpr Colour kInSlag{0xFFC0C0};   // light blue: lies in the running trick
+inline constexpr Colour kInSlag{0xFFC0C0};    // light blue: lies in the running trick
 inline constexpr Colour kGespeeld{0x00FF00};  // green: belongs to a closed trick
 inline constexpr Colour kEvenBlauw{0xFF0000};
 inline constexpr Colour kUitkomstVanPakket{0x80FF80};  // light green
 
 // Cards of a suit that a seat can hold: the labels 0 to 12 of an array.
-inline constexpr int kHoogste = 12;
+inline constexpr int kHoogste = kaart::kKaartenPerKleur - 1;
 
 // The four hands: a frame a seat, and in it four rows of thirteen labels, lblSchoppenNoord to lblKlaverenWest.
 struct KaartLabels {
@@ -27,17 +25,12 @@ struct KaartLabels {
 
     explicit KaartLabels(forms::Container& screen);
 
-    forms::Frame fraNoord;
-    forms::Frame fraOost;
-    forms::Frame fraZuid;
-    forms::Frame fraWest;
-    // picSN, picHN, picRN, picKN and so on: the symbols in front of the rows, by seat 0 to 3 and suit.
-    std::array<std::array<forms::PictureBox, 4>, 4> pic;
-    std::array<std::array<Rij, 4>, 4> lbl;
+    // A seat that is none is failure 9.
+    kaart::PerPlaats<forms::Frame> fra;                        // fraNoord to fraWest
+    kaart::PerPlaats<kaart::PerKleur<forms::PictureBox>> pic;  // picSN, picHN and so on: the symbols before the rows
+    kaart::PerPlaats<kaart::PerKleur<Rij>> lbl;
 
-    forms::Frame& frame(int plaats);
-    // The row of a seat, 1 to 4, and a suit. Another seat is failure 9.
-    Rij& rij(int plaats, kaart::Kleur kleur);
+    Rij& rij(int plaats, kaart::Kleur kleur) { return lbl(plaats)(kleur); }
 
     // Makes the elements 1 to 12 and places the rows.
     void maak_rijen();
@@ -46,14 +39,16 @@ struct KaartLabels {
     // Klaveren.
     template <class Action>
     void elke_rij(Action action) {
-        for (int plaats = 1; plaats <= 4; ++plaats) {
-            for (const kaart::Kleur kleur : kaart::kKleuren) action(rij(plaats, kleur));
+        for (const int plaats : kaart::kPlaatsen) {
+            for (const kaart::Kleur kleur : kaart::kKleuren)
+                action(rij(plaats, kleur));
         }
     }
     template <class Action>
     void elk_label(Action action) {
         elke_rij([&](Rij& rij) {
-            for (int i = 0; i <= kHoogste; ++i) action(rij(i));
+            for (int i = 0; i <= kHoogste; ++i)
+                action(rij(i));
         });
     }
 };

@@ -4,44 +4,48 @@
 #include "platform/Paths.h"
 #include "prepare/Klik.h"
 #include "services/Bas_Aftavrin.h"
-#include "table/Kaarten.h"
+#include "table/KaartenTafel.h"
 
 namespace {
 
 constexpr forms::Size kInner{16950, 9585};
-constexpr BiedingPaneel::Kolommen kBiedingKolommen{570, 870};
 
 }  // namespace
 
 frmTavrin03::frmTavrin03(Programma& programma)
-    : Scherm(programma, "frmTavrin03", kInner),
-      KaartLabels(static_cast<forms::Form&>(*this)),
-      BiedingPaneel(static_cast<forms::Form&>(*this), {12780, 150, 4035, 3105}, kBiedingKolommen) {
+    : Scherm(programma, "frmTavrin03", kInner,
+             {.key_up = "frmTavrin03 - Form - KeyUp",
+              .terug = "frmTavrin03 - cmdTerug - Click",
+              .query_unload = "frmTavrin03 - Form - QueryUnload"}) {
     stel_uiterlijk_in();
-    chkSorteerRVLX.Click = [this] { chkSorteerRVLX_Click(); };
-    chkSorteerTavrin.Click = [this] { chkSorteerTavrin_Click(); };
+    chkSorteerRVLX.Click = [this] {
+        sorteer("frmTavrin03 - chkSorteerRVLX - Click", chkSorteerRVLX, [this] { LaatRVLXSpellenZien(); });
+    };
+    chkSorteerTavrin.Click = [this] {
+        sorteer("frmTavrin03 - chkSorteerTavrin - Click", chkSorteerTavrin, [this] { LeesAftavrinSpellen(); });
+    };
     lstRVLX.Click = [this] { lstRVLX_Click(); };
     lstAfTavrin.Click = [this] { lstAfTavrin_Click(); };
     cmdOpslaan.Click = [this] { cmdOpslaan_Click(); };
     cmdOphalen.Click = [this] { cmdOphalen_Click(); };
     msfgTavrin.Click = [this] { msfgTavrin_Click(); };
-    cmdTerug.Click = [this] { Foutpad("frmTavrin03 - cmdTerug - Click", [&] { Form_QueryUnload(); }); };
+    cmdTerug.Click = [this] { cmdTerug_Click(); };
     for (const prepare::Klik& klik : prepare::kKlikken) {
-        rij(klik.plaats, klik.kleur).each([this, &klik](forms::Label& label) {
+        labels.rij(klik.plaats, klik.kleur).each([this, &klik](forms::Label& label) {
             label.Click = [this, &klik, index = label.index()] { klik_kaart(klik, index); };
         });
     }
 }
 
 void frmTavrin03::stel_uiterlijk_in() {
-    for (int plaats = 1; plaats <= 4; ++plaats) {
-        frame(plaats).Caption = LeesResString(kaart::bericht_van_plaats(plaats));
-        lblBieding(plaats - 1).Caption = LeesResString(kaart::bericht_van_plaats(plaats));
+    for (const int plaats : kaart::kPlaatsen) {
+        labels.fra(plaats).Caption = LeesResString(kaart::bericht_van_plaats(plaats));
+        bieding.lblBieding(plaats - 1).Caption = LeesResString(kaart::bericht_van_plaats(plaats));
     }
-    lblInfo(0).Caption = LeesResString(14) + ":";
-    lblInfo(1).Caption = LeesResString(15) + ":";
-    lblSlagenNZ.Caption = LeesResString(16) + ":";
-    lblSlagenOW.Caption = LeesResString(17) + ":";
+    lblInfo(0).Caption = LeesResString(Bericht::Contract) + ":";
+    lblInfo(1).Caption = LeesResString(Bericht::Uitkomst) + ":";
+    lblSlagenNZ.Caption = LeesResString(Bericht::SlagenNoordZuid) + ":";
+    lblSlagenOW.Caption = LeesResString(Bericht::SlagenOostWest) + ":";
     lblSlagenTellerNZ.Caption = "0";
     lblSlagenTellerOW.Caption = "0";
     for (forms::Label* opschrift : {&lblLaatste, &lblContract, &lblUitkomstWind, &lblUitkomstKaart}) {
@@ -70,16 +74,16 @@ void frmTavrin03::stel_uiterlijk_in() {
 
 void frmTavrin03::Form_Load() {
     Foutpad("frmTavrin03 - Form - Load", [&] {
-        Caption = LeesResString(10025);
-        cmdTerug.Caption = "&" + LeesResString(10018);
+        Caption = LeesResString(Bericht::MaakSpelGereed);
+        cmdTerug.Caption = "&" + LeesResString(Bericht::Terug);
         zet_buiten_beeld(cmdFocus);
         cmdTerug.Move(90, Height - cmdTerug.Height - 90);
-        fraRVLX.Caption = LeesResString(10026);
-        fraTavrin.Caption = LeesResString(10006);
-        chkSorteerRVLX.Caption = LeesResString(10009);
-        chkSorteerTavrin.Caption = LeesResString(10009);
-        cmdOpslaan.Caption = "&" + LeesResString(10048);
-        maak_rijen();
+        fraRVLX.Caption = LeesResString(Bericht::SpellenUitRVLX);
+        fraTavrin.Caption = LeesResString(Bericht::Tavrin);
+        chkSorteerRVLX.Caption = LeesResString(Bericht::SorteerHoogLaag);
+        chkSorteerTavrin.Caption = LeesResString(Bericht::SorteerHoogLaag);
+        cmdOpslaan.Caption = "&" + LeesResString(Bericht::SpelOpslaan);
+        labels.maak_rijen();
         MaakLabelSchoon();
         zet_raster_op();
         lees_sorteerkeuzen();
@@ -127,58 +131,15 @@ void frmTavrin03::Form_Activate() {
     });
 }
 
-void frmTavrin03::Form_KeyUp(int key_code) {
-    Foutpad("frmTavrin03 - Form - KeyUp", [&] {
-        if (key_code == forms::kKeyEscape) Form_QueryUnload();
-    });
-}
-
-void frmTavrin03::Form_QueryUnload() {
-    Foutpad("frmTavrin03 - Form - QueryUnload", [&] {
-        programma.schermen.toon("frmTavrin01");
-        Unload();
-    });
-}
-
-namespace {
-
-// Fills a list of deals from its folder, in the direction of its box, whose caption names what a next click would do.
-// As long as the folder is not known the list stays empty and nothing is made.
-void toon_mappen(frmTavrin03& scherm, forms::ListBox& lijst, forms::DirListBox& mappen, forms::CheckBox& keuze,
-                 const std::string& map) {
-    keuze.Caption = scherm.LeesResString(keuze.Value == 1 ? 10010 : 10009);
-    if (map.empty()) return;
-    std::string pad = map;
-    Bas_Aftavrin::MaakPad(pad);
-    Kaarten::vul_met_mappen(lijst, mappen, map, keuze.Value);
-}
-
-}  // namespace
-
 void frmTavrin03::LaatRVLXSpellenZien() {
     Foutpad("frmTavrin03 - General - LaatRVLXSpellenZien", [&] {
-        toon_mappen(*this, lstRVLX, dirRVLX, chkSorteerRVLX, RVLXMap.empty() ? "" : join_path(RVLXMap, "spellen"));
+        toon_mappen({lstRVLX, dirRVLX, chkSorteerRVLX}, RVLXMap.empty() ? "" : join_path(RVLXMap, "spellen"));
     });
 }
 
 void frmTavrin03::LeesAftavrinSpellen() {
-    Foutpad("frmTavrin03 - General - LeesAftavrinSpellen",
-            [&] { toon_mappen(*this, lstAfTavrin, dirAftavrin, chkSorteerTavrin, aftavrinMap); });
-}
-
-void frmTavrin03::chkSorteerRVLX_Click() {
-    Foutpad("frmTavrin03 - chkSorteerRVLX - Click", [&] {
-        if (cmdFocus.Visible) cmdFocus.SetFocus();
-        bewaar_keuze(chkSorteerRVLX);
-        LaatRVLXSpellenZien();
-    });
-}
-
-void frmTavrin03::chkSorteerTavrin_Click() {
-    Foutpad("frmTavrin03 - chkSorteerTavrin - Click", [&] {
-        if (cmdFocus.Visible) cmdFocus.SetFocus();
-        bewaar_keuze(chkSorteerTavrin);
-        LeesAftavrinSpellen();
+    Foutpad("frmTavrin03 - General - LeesAftavrinSpellen", [&] {
+        toon_mappen({lstAfTavrin, dirAftavrin, chkSorteerTavrin}, aftavrinMap);
     });
 }
 
@@ -197,7 +158,7 @@ void frmTavrin03::lstRVLX_Click() {
         gedeeld.spelNaam = lstRVLX.Text();
         gedeeld.spelMap = join_path(join_path(RVLXMap, "spellen"), lstRVLX.Text());
         LeesRVLXSpelIn();
-        Kaarten::ToonBieding(*this, *this);
+        Kaarten::ToonBieding(*this, bieding);
         gedeeld.uitkomstVast = true;
     });
 }

@@ -28,14 +28,30 @@ struct Bron;
 //   frmTavrin03_Raster.cpp   msfgTavrin_Click: taking the play back
 //   frmTavrin03_Ophalen.cpp  cmdOphalen_Click
 //   frmTavrin03_Opslaan.cpp  cmdOpslaan_Click
-class frmTavrin03 final : public Scherm, public prepare::KaartLabels, public BiedingPaneel {
+//
+// What controls remember, beside what they show:
+//
+//   control                  holds                                  written by               read by
+//   labels: BackColor        where the card is (KaartLabels.h)      Lezen, Opname, Raster    klik_kaart, te_bekennen
+//   msfgTavrin: cell colour  who leads the trick of the row, and    sluit_slag, Lezen,       SlagenTeller, Raster,
+//                            so who won the one before              speel_rijen_na           stel_speelrijen_op
+//   msfgTavrin.Row           the row of the card played last        VolgendeKaart            neem_terug
+//   lstKlaar                 the cards of the running trick         lees_slag                bepaal_winnaar
+//   lstKlaar.Tag             letter of the seat to play             VolgendeKaart, Lezen,    klik_kaart, AanDeBeurt
+//                                                                   neem_terug
+//   lstAfTavrin.Tag          line of the package on the screen;     lstRVLX_Click,           msfgTavrin_Click
+//                            empty for a deal of the companion      lstAfTavrin_Click
+//   lblSlagenTellerNZ, -OW   the tricks won                         SlagenTeller, Raster     tel_slag_voor
+//   lstKnipTekst             lines of the texts cut so far          knip_tot_regels          Lezen
+//   lstOpslaan               the play rows to be written            stel_speelrijen_op       schrijf_speelbestanden
+class frmTavrin03 final : public Scherm {
 public:
     explicit frmTavrin03(Programma& programma);
     void Form_Load() override;
     void Form_Activate() override;
-    void Form_KeyUp(int key_code) override;
-    void Form_QueryUnload() override;
 
+    prepare::KaartLabels labels{*this};
+    BiedingPaneel bieding{*this, {12780, 150, 4035, 3105}, {.eerste = 570, .stap = 870}};
     forms::Frame fraRVLX{*this, "fraRVLX", {90, 150, 2745, 4305}};
     forms::ListBox lstRVLX{fraRVLX, "lstRVLX", {120, 300, 2505, 3375}};
     forms::CheckBox chkSorteerRVLX{fraRVLX, "chkSorteerRVLX", {120, 3720, 2565, 285}};
@@ -44,7 +60,8 @@ public:
     forms::ListBox lstAfTavrin{fraTavrin, "lstAfTavrin", {120, 330, 2505, 3375}};
     forms::CheckBox chkSorteerTavrin{fraTavrin, "chkSorteerTavrin", {120, 3870, 2565, 285}};
 
-    forms::ControlArray<forms::Label> lblInfo{*this, "lblInfo", {{0, {2970, 240, 840, 195}}, {1, {2970, 540, 840, 195}}}};
+    forms::ControlArray<forms::Label> lblInfo{
+        *this, "lblInfo", {{0, {2970, 240, 840, 195}}, {1, {2970, 540, 840, 195}}}};
     forms::Label lblContract{*this, "lblContract", {3840, 240, 900, 195}};
     forms::Label lblUitkomstWind{*this, "lblUitkomstWind", {3840, 540, 600, 195}};
     forms::PictureBox picUitkomst{*this, "picUitkomst", {4440, 540, 210, 210}};
@@ -67,7 +84,7 @@ public:
     forms::ListBox lstOpslaan{*this, "lstOpslaan"};
     forms::ListBox lstVoorWissen{*this, "lstVoorWissen"};
     forms::ListBox lstKnipTekst{*this, "lstKnipTekst"};
-    forms::ListBox lstKlaar{*this, "lstKlaar"};  // the running trick; its Tag is the letter of the seat to play
+    forms::ListBox lstKlaar{*this, "lstKlaar"};
     forms::ListBox lstAnderKleur{*this, "lstAnderKleur"};
     forms::ListBox lstOphalen{*this, "lstOphalen"};
     forms::ListBox lstMsfgTavrin{*this, "lstMsfgTavrin"};
@@ -106,8 +123,6 @@ private:
     void stel_uiterlijk_in();
     void zet_raster_op();
     void lees_sorteerkeuzen();
-    void chkSorteerRVLX_Click();
-    void chkSorteerTavrin_Click();
     void lstRVLX_Click();
     void lstAfTavrin_Click();
     void cmdOpslaan_Click();
@@ -134,7 +149,9 @@ private:
     void neem_terug(const prepare::Klik& klik, forms::Label& label);
     std::optional<kaart::Kleur> te_bekennen(const prepare::Klik& klik);
     void bepaal_winnaar();
-    void sluit_slag(int slagrij, int& speler);
+    int leg_kaart(int speler, const std::string& kaart, int index);
+    bool lees_slag(int slagrij);
+    int sluit_slag(int slagrij, int speler);
     int waarde_van(const std::string& kaart) const;
     std::optional<kaart::Kleur> kleur_van_letter(const std::string& letter) const;
     void tel_slag_voor(int kolom);

@@ -5,8 +5,8 @@
 #include "prepare/Bron.h"
 #include "prepare/frmTavrin03.h"
 #include "services/Bas_Aftavrin.h"
-#include "table/Kaarten.h"
-#include "table/Knip_Tekst.h"
+#include "services/Knip_Tekst.h"
+#include "table/KaartenTafel.h"
 
 using prepare::Bron;
 using prepare::kHoogste;
@@ -65,7 +65,7 @@ void frmTavrin03::LeesSpelIn() {
         for (forms::TextBox* doos : {&txtVraag, &txtAntwoord})
             doos->Text = zonder_regeleinde_vooraan(doos->Text());
         tekstenGelezen = true;
-        Kaarten::ToonBieding(*this, *this);
+        Kaarten::ToonBieding(*this, bieding);
     });
 }
 
@@ -79,8 +79,9 @@ void frmTavrin03::knip_tot_regels(const std::string& tekst) {
 bool frmTavrin03::lees_spel(const Bron& bron) {
     maak_scherm_leeg();
     if (!Kaarten::aanwezig(bron.stam + " Contract.txt")) {
-        programma.platform.message_box(box_style::kInformation, Caption(),
-                                       bron.geweigerd + replaced(LeesResString(10033), "|", bron.regeleinde));
+        programma.platform.message_box(
+            box_style::kInformation, Caption(),
+            bron.geweigerd + replaced(LeesResString(Bericht::NietCompleet), "|", bron.regeleinde));
         return false;
     }
     gedeeld.regel = Kaarten::eerste_regel(bron.stam + " Contract.txt");
@@ -95,14 +96,14 @@ bool frmTavrin03::lees_spel(const Bron& bron) {
 }
 
 void frmTavrin03::maak_scherm_leeg() {
-    elk_label([](forms::Label& label) {
+    labels.elk_label([](forms::Label& label) {
         label.Visible = false;
         label.Caption = "";
         label.BackColor = kInHand;
         label.Enabled = true;
     });
-    for (int plaats = 1; plaats <= 4; ++plaats)
-        frame(plaats).BackColor = kInHand;
+    for (const int plaats : kaart::kPlaatsen)
+        labels.fra(plaats).BackColor = kInHand;
     msfgTavrin.Redraw = false;
     for (int r = 1; r < msfgTavrin.Rows(); ++r) {
         msfgTavrin.Row = r;
@@ -123,9 +124,9 @@ void frmTavrin03::lees_uitkomst(const Bron& bron) {
     const std::string kaart = trimmed(gedeeld.delen[1]);
     picUitkomst.Picture = forms::Picture{};
     if (!kaart.empty() && kaart[0] >= '0' && kaart[0] <= '3') {
-        const auto kleur = static_cast<std::size_t>(kaart[0] - '0');
-        picUitkomst.Picture = pic[0][kleur].Picture();
-        GevraagdeKleur = LeesResString(kaart::gegevens(kaart::kKleuren[kleur]).letter) + " ";
+        const auto kleur = static_cast<kaart::Kleur>(kaart[0] - '0');
+        picUitkomst.Picture = labels.pic(1)(kleur).Picture();
+        GevraagdeKleur = LeesResString(kaart::gegevens(kleur).letter) + " ";
     }
     lblUitkomstWind.Caption = wind + " - ";
     picUitkomst.Left = lblUitkomstWind.right() + 32;
@@ -154,11 +155,11 @@ int frmTavrin03::zet_uitkomst_in_raster() {
 
 void frmTavrin03::lees_handen(const Bron& bron) {
     LineReader regels(bron.stam + " handen.txt");
-    for (int plaats = 1; plaats <= 4; ++plaats) {
+    for (const int plaats : kaart::kPlaatsen) {
         for (const kaart::Kleur kleur : kaart::kKleuren) {
             const std::string kaarten = regels.line();
             for (std::size_t i = 0; i < kaarten.size(); ++i) {
-                forms::Label& label = rij(plaats, kleur)(static_cast<int>(i));
+                forms::Label& label = labels.rij(plaats, kleur)(static_cast<int>(i));
                 label.Caption = std::string(1, kaarten[i]);
                 label.AccessibleName = kaart::titel(kaart::code_van(waarde_van(label.Caption()), kleur));
                 label.Visible = true;
@@ -173,7 +174,7 @@ void frmTavrin03::kleur_uitkomst(int kolom, const Bron& bron) {
     const bool bekend = !(picUitkomst.Picture == forms::Picture{});
     if (kolom == 0 || !kleur || !bekend) throw Fout(FoutNummer::InvalidCall, gedeeld.regel);
     for (int i = 0; i <= kHoogste; ++i) {
-        forms::Label& label = rij(kolom, *kleur)(i);
+        forms::Label& label = labels.rij(kolom, *kleur)(i);
         if (!(label.Caption == left(lblUitkomstKaart.Caption(), 1))) continue;
         label.BackColor = bron.kleur_uitkomst;
         return;

@@ -22,7 +22,7 @@ void frmTavrin03::cmdOphalen_Click() {
         }
 
         int hand = 0;
-        elke_rij([&](Rij& rij) {
+        labels.elke_rij([&](prepare::KaartLabels::Rij& rij) {
             if (hand >= lstOphalen.ListCount()) return;
             gedeeld.delen = split(lstOphalen.List(hand++), "|");
             for (int i = 0; i < gedeeld.delen.last(); ++i) {

@@ -8,12 +8,13 @@ using prepare::kInHand;
 using prepare::kInSlag;
 
 void frmTavrin03::klik_kaart(const prepare::Klik& klik, int index) {
-    Foutpad(std::string("frmTavrin03 - ") + klik.naam + " - Click", [&] {
-        forms::Label& label = rij(klik.plaats, klik.kleur)(index);
+    Foutpad(klik.plaats_van_klik, [&] {
+        forms::Label& label = labels.rij(klik.plaats, klik.kleur)(index);
         if (label.BackColor == kGespeeld) return;
         const bool in_slag = label.BackColor == kInSlag;
         if (gedeeld.uitkomstVast && (in_slag || klik.eerst_vast)) {
-            programma.platform.message_box(box_style::kInformation, LeesResString(10001), LeesResString(10106));
+            programma.platform.message_box(box_style::kInformation, LeesResString(Bericht::ProgrammaNaam),
+                                           LeesResString(Bericht::UitkomstBlijft));
             cmdFocus.SetFocus();
             return;
         }
@@ -35,7 +36,7 @@ void frmTavrin03::klik_kaart(const prepare::Klik& klik, int index) {
         if (MoetBekennen) {
             const std::string woord = LeesResString(kaart::gegevens(*kleur).woord);
             programma.platform.message_box(box_style::kInformation, Caption(),
-                                           replaced(LeesResString(10031), "~", woord));
+                                           replaced(LeesResString(Bericht::MoetBekennen), "~", woord));
             cmdFocus.SetFocus();
             return;
         }
@@ -63,7 +64,7 @@ std::optional<kaart::Kleur> frmTavrin03::te_bekennen(const prepare::Klik& klik) 
             kleur == kaart::Kleur::Klaveren ? klik.klaver : LeesResString(kaart::gegevens(kleur).letter);
         if (kleur == klik.kleur || gevraagd != letter) continue;
         for (int i = 0; i <= kHoogste; ++i) {
-            const forms::Label& label = rij(klik.plaats, kleur)(i);
+            const forms::Label& label = labels.rij(klik.plaats, kleur)(i);
             if (label.Visible && label.Enabled && label.BackColor == kInHand) return kleur;
         }
     }
@@ -72,14 +73,14 @@ std::optional<kaart::Kleur> frmTavrin03::te_bekennen(const prepare::Klik& klik) 
 
 void frmTavrin03::AanDeBeurt(std::string& wie) {
     Foutpad("frmTavrin03 - General - AanDeBeurt", [&] {
-        for (int plaats = 1; plaats <= 4; ++plaats) {
+        for (const int plaats : kaart::kPlaatsen) {
             if (lstKlaar.Tag == LeesResString(kaart::letter_van_plaats(plaats))) {
                 wie = LeesResString(kaart::bericht_van_plaats(plaats));
                 break;
             }
         }
         programma.platform.message_box(box_style::kInformation, Caption(),
-                                       replaced(replaced(LeesResString(10032), "~", wie), "|", "\n"));
+                                       replaced(replaced(LeesResString(Bericht::JuisteVolgorde), "~", wie), "|", "\n"));
     });
 }
 
@@ -89,34 +90,48 @@ void frmTavrin03::VolgendeKaart(int& speler, const std::string& kaart, int index
         if (HerberekenSlag) {
             msfgTavrin.SetText(kaart);
         } else {
-            msfgTavrin.Col = speler;
-            for (slagrij = 1; slagrij < msfgTavrin.Rows(); ++slagrij) {
-                if (!msfgTavrin.cell(slagrij, speler).text.empty()) continue;
-                msfgTavrin.Row = slagrij;
-                msfgTavrin.SetText(kaart);
-                break;
-            }
-            if (LeesModus) slagrij = msfgTavrin.Rows() - 1;
-            const auto kleur = kleur_van_letter(left(kaart, 1));
-            if (kleur && speler >= 1 && speler <= 4) rij(speler, *kleur)(index).BackColor = kInSlag;
-            msfgTavrin.Row = slagrij;
+            slagrij = leg_kaart(speler, kaart, index);
         }
-        lstKlaar.Clear();
-        bool slag_open = false;
-        for (int kolom = 1; kolom < msfgTavrin.Cols(); ++kolom) {
-            msfgTavrin.Col = kolom;
-            lstKlaar.AddItem(msfgTavrin.Text());
-            slag_open = slag_open || msfgTavrin.Text().empty();
-        }
-        if (!slag_open) {
+        if (lees_slag(slagrij)) {
             bepaal_winnaar();
             if (LeesModus) return;
-            sluit_slag(slagrij, speler);
+            speler = sluit_slag(slagrij, speler);
         }
         if (speler >= 1 && speler <= 4) {
             lstKlaar.Tag = LeesResString(kaart::letter_van_plaats(kaart::volgende_plaats(speler)));
         }
     });
+}
+
+// Puts a card into the seat's first empty cell and colours its label. The row of its trick, which is then the grid's
+// current one; in a full column the failure of a row that is not there.
+int frmTavrin03::leg_kaart(int speler, const std::string& kaart, int index) {
+    msfgTavrin.Col = speler;
+    int slagrij = 1;
+    while (slagrij < msfgTavrin.Rows() && !msfgTavrin.cell(slagrij, speler).text.empty())
+        ++slagrij;
+    if (slagrij < msfgTavrin.Rows()) {
+        msfgTavrin.Row = slagrij;
+        msfgTavrin.SetText(kaart);
+    }
+    if (LeesModus) slagrij = msfgTavrin.Rows() - 1;
+    const auto kleur = kleur_van_letter(left(kaart, 1));
+    if (kleur && speler >= 1 && speler <= 4) labels.rij(speler, *kleur)(index).BackColor = kInSlag;
+    msfgTavrin.Row = slagrij;
+    return slagrij;
+}
+
+// Takes the cards of a trick into lstKlaar. True if it is full.
+bool frmTavrin03::lees_slag(int slagrij) {
+    lstKlaar.Clear();
+    bool vol = true;
+    for (int kolom = 1; kolom < msfgTavrin.Cols(); ++kolom) {
+        const std::string& kaart = msfgTavrin.cell(slagrij, kolom).text;
+        lstKlaar.AddItem(kaart);
+        vol = vol && !kaart.empty();
+    }
+    msfgTavrin.Col = msfgTavrin.Cols() - 1;
+    return vol;
 }
 
 // Trump first, otherwise the suit led; the highest value wins. Where no card counts, the winner stays as it was.
@@ -145,28 +160,27 @@ void frmTavrin03::bepaal_winnaar() {
     }
 }
 
-void frmTavrin03::sluit_slag(int slagrij, int& speler) {
-    elk_label([](forms::Label& label) {
+// The seat after which the turn goes on: the one before the winner, or after the last trick the one that played.
+int frmTavrin03::sluit_slag(int slagrij, int speler) {
+    labels.elk_label([](forms::Label& label) {
         if (label.BackColor == kInSlag) label.BackColor = kGespeeld;
     });
-    msfgTavrin.Col = SlagWinnaar;
     if (slagrij + 1 < msfgTavrin.Rows()) {
-        msfgTavrin.Row = slagrij + 1;
-        msfgTavrin.SetCellBackColor(kInSlag);
-        speler = SlagWinnaar == 1 ? 4 : SlagWinnaar - 1;
+        msfgTavrin.SetCellBackColor(slagrij + 1, SlagWinnaar, kInSlag);
         GevraagdeKleur.clear();
         Kaarten::SlagenTeller(*this);
-        return;
+        return SlagWinnaar == 1 ? 4 : SlagWinnaar - 1;
     }
     // No row follows the last trick, so its winner is counted here.
     Kaarten::SlagenTeller(*this);
     tel_slag_voor(SlagWinnaar);
-    programma.platform.message_box(box_style::kInformation, Caption(), LeesResString(10088));
+    programma.platform.message_box(box_style::kInformation, Caption(), LeesResString(Bericht::KlikOpOpslaan));
     cmdOpslaan.Enabled = true;
+    return speler;
 }
 
 void frmTavrin03::tel_slag_voor(int kolom) {
-    forms::Label& teller = kolom == 1 || kolom == 3 ? lblSlagenTellerNZ : lblSlagenTellerOW;
+    forms::Label& teller = kolom == kaart::kNoord || kolom == kaart::kZuid ? lblSlagenTellerNZ : lblSlagenTellerOW;
     teller.Caption = std::to_string(numeric_value(teller.Caption()) + 1);
 }
 
@@ -188,7 +202,7 @@ std::optional<kaart::Kleur> frmTavrin03::kleur_van_letter(const std::string& let
 
 void frmTavrin03::MaakLabelSchoon() {
     Foutpad("frmTavrin03 - General - MaakLabelSchoon", [&] {
-        elk_label([](forms::Label& label) {
+        labels.elk_label([](forms::Label& label) {
             label.Caption = "";
             label.Visible = false;
             label.BackColor = kInHand;
@@ -200,9 +214,9 @@ void frmTavrin03::KleurKaartGroen(int speler, const std::string& waarde, const s
     Foutpad("frmTavrin03 - General - KleurKaartGroen", [&] {
         const auto van = kleur_van_letter(kleur);
         if (!van || speler < 1 || speler > 4) return;
-        for (int i = 0; i <= kHoogste && rij(speler, *van)(i).Visible; ++i) {
-            if (!(rij(speler, *van)(i).Caption == waarde)) continue;
-            rij(speler, *van)(i).BackColor = kGespeeld;
+        for (int i = 0; i <= kHoogste && labels.rij(speler, *van)(i).Visible; ++i) {
+            if (!(labels.rij(speler, *van)(i).Caption == waarde)) continue;
+            labels.rij(speler, *van)(i).BackColor = kGespeeld;
             return;
         }
     });
@@ -216,13 +230,13 @@ void Kaarten::SlagenTeller(frmTavrin03& scherm) {
         int oost_west = 0;
         // The coloured cell of row 1 is the opening lead, which no trick won.
         for (int rij = 2; rij < raster.Rows(); ++rij) {
-            raster.Row = rij;
             for (int kolom = 1; kolom < raster.Cols(); ++kolom) {
-                raster.Col = kolom;
-                if (raster.CellBackColor() == kInHand) continue;
-                ++(kolom == 1 || kolom == 3 ? noord_zuid : oost_west);
+                if (raster.cell(rij, kolom).colour == kInHand) continue;
+                ++(kolom == kaart::kNoord || kolom == kaart::kZuid ? noord_zuid : oost_west);
             }
         }
+        raster.Row = raster.Rows() - 1;
+        raster.Col = raster.Cols() - 1;
         raster.Visible = true;
         scherm.lblSlagenTellerNZ.Caption = std::to_string(noord_zuid);
         scherm.lblSlagenTellerOW.Caption = std::to_string(oost_west);

@@ -25,7 +25,8 @@ void frmTavrin03::cmdOpslaan_Click() {
         const std::string stam = join_path(gedeeld.spelMapKopie, gedeeld.spelNaam);
         const bool bestaat = Kaarten::aanwezig(stam + " aftavrin.txt");
         if (bestaat) {
-            const std::string vraag = replaced(replaced(LeesResString(10050), "~", lstAfTavrin.Text()), "|", "\n");
+            const std::string vraag =
+                replaced(replaced(LeesResString(Bericht::BestandBestaatAl), "~", lstAfTavrin.Text()), "|", "\n");
             if (programma.platform.message_box(box_style::kQuestion, Caption(), vraag) == Answer::No) return;
         }
         stel_speelrijen_op();
@@ -90,6 +91,7 @@ void frmTavrin03::schrijf_speelbestanden(const std::string& stam) {
     }
     write_records(stam + " informatie.txt", Kaarten::kRecordLengte, records);
     std::string regels;
-    for (int i = 0; i < lstOpslaan.ListCount(); ++i) regels += lstOpslaan.List(i) + "\r\n";
+    for (int i = 0; i < lstOpslaan.ListCount(); ++i)
+        regels += lstOpslaan.List(i) + "\r\n";
     write_file(stam + " aftavrin.txt", regels);
 }

@@ -36,7 +36,7 @@ void frmTavrin03::lstAfTavrin_Click() {
         } else {
             programma.platform.message_box(
                 box_style::kInformation, Caption(),
-                lstAfTavrin.Text() + " " + replaced(LeesResString(10033), "|", "\n"));
+                lstAfTavrin.Text() + " " + replaced(LeesResString(Bericht::NietCompleet), "|", "\n"));
         }
         gedeeld.uitkomstVast = true;
         cmdFocus.SetFocus();
@@ -64,7 +64,7 @@ void frmTavrin03::speel_rijen_na() {
         msfgTavrin.Col = numeric_value(left(gedeeld.delen[0], 1));
         msfgTavrin.SetCellBackColor(kInSlag);
     }
-    elk_label([](forms::Label& label) {
+    labels.elk_label([](forms::Label& label) {
         if (label.Visible) label.BackColor = kGespeeld;
     });
 }

@@ -19,7 +19,7 @@ void frmTavrin03::msfgTavrin_Click() {
             return;
         }
         msfgTavrin.Row = rij;
-        const std::string vraag = replaced(LeesResString(10047), "~", std::to_string(rij));
+        const std::string vraag = replaced(LeesResString(Bericht::KaartenTerugplaatsen), "~", std::to_string(rij));
         if (programma.platform.message_box(box_style::kQuestion, Caption(), vraag) == Answer::No) {
             cmdFocus.SetFocus();
             return;
@@ -41,7 +41,7 @@ void frmTavrin03::terug_naar_slag(int rij) {
 
     msfgTavrin.Row = rij - 1;
     int uitkomer = 0;
-    for (int kolom = 4; kolom >= 1; --kolom) {
+    for (int kolom = kaart::kWest; kolom >= kaart::kNoord; --kolom) {
         msfgTavrin.Col = kolom;
         if (msfgTavrin.CellBackColor() != kInHand) uitkomer = kolom;
     }
@@ -59,15 +59,15 @@ void frmTavrin03::terug_naar_slag(int rij) {
 
 // The cards of the rows before this one become green, all others white.
 void frmTavrin03::kleur_handen_tot(int rij_grens) {
-    elk_label([](forms::Label& label) { label.BackColor = kInHand; });
-    for (int kolom = 1; kolom <= 4; ++kolom) {
+    labels.elk_label([](forms::Label& label) { label.BackColor = kInHand; });
+    for (const int kolom : kaart::kPlaatsen) {
         for (int r = rij_grens - 1; r >= 1; --r) {
             const std::string& tekst = msfgTavrin.cell(r, kolom).text;
             const auto kleur = kleur_van_letter(left(tekst, 1));
             if (!kleur) continue;
             for (int i = 0; i <= kHoogste; ++i) {
-                if (!(rij(kolom, *kleur)(i).Caption == right(tekst, 1))) continue;
-                rij(kolom, *kleur)(i).BackColor = kGespeeld;
+                if (!(labels.rij(kolom, *kleur)(i).Caption == right(tekst, 1))) continue;
+                labels.rij(kolom, *kleur)(i).BackColor = kGespeeld;
                 break;
             }
         }
@@ -77,7 +77,7 @@ void frmTavrin03::kleur_handen_tot(int rij_grens) {
 void frmTavrin03::wis_cellen_vanaf(int rij_grens) {
     for (int r = msfgTavrin.Rows() - 1; r >= rij_grens; --r) {
         msfgTavrin.Row = r;
-        for (int kolom = 1; kolom <= 4; ++kolom) {
+        for (const int kolom : kaart::kPlaatsen) {
             msfgTavrin.Col = kolom;
             msfgTavrin.SetCellBackColor(kInHand);
             msfgTavrin.SetText("");
@@ -97,7 +97,7 @@ void frmTavrin03::terug_naar_uitkomst_van_rvlx() {
 
 // GevraagdeKleur and uitkomstVast stay as they stood: here the lead may be taken back, unlike right after a load.
 void frmTavrin03::terug_naar_uitkomst_van_pakket() {
-    elk_label([](forms::Label& label) { label.BackColor = kInHand; });
+    labels.elk_label([](forms::Label& label) { label.BackColor = kInHand; });
     wis_cellen_vanaf(1);
     const std::string pad = Kaarten::bestand(gedeeld, " uitkomst.txt");
     if (Kaarten::aanwezig(pad)) {
@@ -111,7 +111,7 @@ void frmTavrin03::terug_naar_uitkomst_van_pakket() {
         kaart = LeesResString(kaart::gegevens(kleur).letter) + " " + middle(uitkomst, 2);
     }
     int uitkomer = 0;
-    for (int plaats = 1; plaats <= 4; ++plaats) {
+    for (const int plaats : kaart::kPlaatsen) {
         if (gedeeld.delen[0] == LeesResString(kaart::bericht_van_plaats(plaats))) uitkomer = plaats;
     }
     if (uitkomer != 0) {
@@ -126,8 +126,8 @@ void frmTavrin03::terug_naar_uitkomst_van_pakket() {
         }
         const auto kleur = kleur_van_letter(left(kaart, 1));
         for (int i = 0; kleur && i <= kHoogste; ++i) {
-            if (!(rij(uitkomer, *kleur)(i).Caption == right(kaart, 1))) continue;
-            rij(uitkomer, *kleur)(i).BackColor = kInSlag;
+            if (!(labels.rij(uitkomer, *kleur)(i).Caption == right(kaart, 1))) continue;
+            labels.rij(uitkomer, *kleur)(i).BackColor = kInSlag;
             break;
         }
     }

@@ -2,9 +2,11 @@
 
 #include <string>
 
+#include "resources/Bericht.h"
+
 namespace resources {
 
-// The texts that the system shows, in Windows-1252, each under its full number (10001 to 10106, with gaps).
+// The texts that the system shows, in Windows-1252, each under its full number (see Bericht, with gaps).
 // The marks in them are for the caller: "~" and "+" are filled in, "|" is a line break.
 
 // The text, or nothing if the table has no such number.

@@ -7,6 +7,7 @@
 #include "base/Fout.h"
 #include "resources/CardFaces.h"
 #include "resources/Glyphs.h"
+#include "resources/Plaatje.h"
 #include "resources/ScreenPictures.h"
 #include "resources/SuitShapes.h"
 
@@ -14,12 +15,9 @@ namespace resources {
 
 namespace {
 
-constexpr int kFirstSymbol = 106;
-constexpr int kNoTrump = 110;
-constexpr int kSmallFaces = 2100;
-constexpr int kLargeFaces = 2200;
+using namespace plaatje;
+
 constexpr int kCards = 52;
-constexpr int kBack = 2253;
 
 bool is_face(int number, int base) { return number > base && number <= base + kCards; }
 
@@ -39,25 +37,25 @@ Drawing no_trump_letters() {
 }  // namespace
 
 bool has_picture(int number) {
-    return (number >= kFirstSymbol && number <= kNoTrump) || is_face(number, kSmallFaces) ||
-           is_face(number, kLargeFaces) || number == kBack;
+    return (number >= kKlaveren && number <= kSansAtout) || is_face(number, kKleineKaarten) ||
+           is_face(number, kGroteKaarten) || number == kKaartRug;
 }
 
 Drawing draw_picture(int number) {
     if (!has_picture(number)) throw Fout(FoutNummer::NoSuchResource, std::to_string(number));
-    if (number == kNoTrump) return no_trump_letters();
+    if (number == kSansAtout) return no_trump_letters();
     // The symbols rise with the rank of their suit, the cards go down.
-    if (number < kNoTrump) return suit_symbol(static_cast<Suit>(kNoTrump - 1 - number));
-    if (number == kBack) return card_back();
-    return number > kLargeFaces ? card_face(number - kLargeFaces, CardSize::Large)
-                                : card_face(number - kSmallFaces, CardSize::Small);
+    if (number < kSansAtout) return suit_symbol(static_cast<Suit>(kSansAtout - 1 - number));
+    if (number == kKaartRug) return card_back();
+    return number > kGroteKaarten ? card_face(number - kGroteKaarten, CardSize::Large)
+                                  : card_face(number - kKleineKaarten, CardSize::Small);
 }
 
 Size picture_size(int number) {
     if (!has_picture(number)) throw Fout(FoutNummer::NoSuchResource, std::to_string(number));
-    if (number == kNoTrump) return {23, 18};
-    if (number < kNoTrump) return {14, 14};
-    return is_face(number, kSmallFaces) ? Size{65, 97} : Size{104, 156};
+    if (number == kSansAtout) return {23, 18};
+    if (number < kSansAtout) return {14, 14};
+    return is_face(number, kKleineKaarten) ? Size{65, 97} : Size{104, 156};
 }
 
 Drawing draw_named_picture(std::string_view name) {

@@ -13,12 +13,8 @@ struct Size {
     friend bool operator==(Size, Size) = default;
 };
 
-// The pictures that go by number:
-//   106-109    the symbols of klaveren, ruiten, harten, schoppen, 14 by 14
-//   110        the letters SA, 23 by 18
-//   2101-2152  the small card faces, 65 by 97
-//   2201-2252  the large card faces, 104 by 156
-//   2253       the card back, 104 by 156
+// The pictures that go by number (see Plaatje): symbols of 14 by 14 pixels, the letters of no trump of 23 by 18, small
+// card faces of 65 by 97, large ones and the card back of 104 by 156.
 bool has_picture(int number);
 
 // Failure 326 if the table has no such number. Every call draws anew.

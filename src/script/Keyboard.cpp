@@ -49,8 +49,7 @@ void erase_with(forms::TextBox& box, int key) {
     if (box.SelLength == 0) {
         const int from = key == kBackspace ? box.SelStart - 1 : box.SelStart();
         if (from < 0 || from >= text_size(box)) return;
-        box.SelStart = from;
-        box.SelLength = 1;
+        forms::user::select_text(box, from, 1);
     }
     forms::user::type(box, "");
 }
@@ -59,8 +58,7 @@ void press(forms::TextBox& box, int key, bool shift) {
     const int caret = box.SelStart + box.SelLength;
     if (const std::optional<int> target = moved(box, caret, key)) {
         const int fixed = shift ? box.SelStart() : *target;
-        box.SelStart = std::min(fixed, *target);
-        box.SelLength = std::abs(*target - fixed);
+        forms::user::select_text(box, std::min(fixed, *target), std::abs(*target - fixed));
     } else if (key == kBackspace || key == kDelete) {
         erase_with(box, key);
     } else if (std::isalnum(key) || key == ' ') {

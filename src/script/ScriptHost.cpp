@@ -72,10 +72,7 @@ Refusal ScriptHost::type(forms::TextBox& box, const std::string& text) {
 
 Refusal ScriptHost::type_all(forms::TextBox& box, const std::string& text) {
     return pressed(box, [&] {
-        if (box.form().focus() == &box) {
-            box.SelStart = 0;
-            box.SelLength = static_cast<int>(box.Text().size());
-        }
+        if (box.form().focus() == &box) forms::user::select_text(box, 0, static_cast<int>(box.Text().size()));
         if (text.empty()) {
             keyboard::erase(windows());
         } else {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "desktop/QtPlatform.h"
+#include "desktop/system/QtPlatform.h"
 #include "script/ScriptPlatform.h"
 
 namespace script_desktop {
@@ -23,7 +23,7 @@ private:
     void answer_by_key(const Box& wanted, int tries);
 
     desktop::QtHost& host_;
-    desktop::QtPlatform real_;
+    desktop::system::QtPlatform real_;
     std::string difference_;
 };
 

@@ -10,7 +10,7 @@
 
 #include "desktop/FormWindow.h"
 #include "desktop/Text.h"
-#include "desktop/View.h"
+#include "desktop/views/View.h"
 #include "forms/FlexGrid.h"
 #include "forms/Form.h"
 #include "forms/ListBox.h"
@@ -76,7 +76,7 @@ QWidget* DesktopStage::window_in_front(forms::Form& form) {
 
 QWidget* DesktopStage::widget(const forms::Control& control) {
     const desktop::FormWindow* window = host_.window(&control.form());
-    const desktop::View* view = window ? window->view(control) : nullptr;
+    const desktop::views::View* view = window ? window->view(control) : nullptr;
     return view ? &view->widget() : nullptr;
 }
 

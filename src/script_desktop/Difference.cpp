@@ -13,10 +13,10 @@
 #include <vector>
 
 #include "desktop/FormWindow.h"
-#include "desktop/LabelView.h"
-#include "desktop/PictureView.h"
 #include "desktop/Text.h"
-#include "desktop/View.h"
+#include "desktop/views/LabelView.h"
+#include "desktop/views/PictureView.h"
+#include "desktop/views/View.h"
 #include "forms/CheckBox.h"
 #include "forms/CommandButton.h"
 #include "forms/FlexGrid.h"
@@ -136,23 +136,23 @@ void compare_box(Comparison& comparison, const forms::TextBox& box, const QWidge
     }
 }
 
-void compare_picture(Comparison& comparison, const forms::Control& control, const desktop::PictureView& view) {
+void compare_picture(Comparison& comparison, const forms::Control& control, const desktop::views::PictureView& view) {
     const std::string wanted = control.find_property("Picture")->text();
     comparison.expect("Picture", desktop::to_qt(wanted), desktop::to_qt(property_text(view.shown_picture())));
 }
 
 // A label that lies behind other controls shows the words that are free, and the whole text as its tool tip.
-void compare_label(Comparison& comparison, const forms::Label& label, const desktop::LabelView& view) {
+void compare_label(Comparison& comparison, const forms::Label& label, const desktop::views::LabelView& view) {
     const QString shown = view.shown_words();
     const QString words = desktop::to_qt(label.Caption());
     const bool a_part = view.widget().toolTip() == desktop::to_qt(desktop::without_mark(label.Caption()));
     if (!a_part || shown.isEmpty() || !words.contains(shown)) comparison.expect_words(label.Caption, shown);
 }
 
-void compare_kind(Comparison& comparison, const forms::Control& control, const desktop::View& view) {
+void compare_kind(Comparison& comparison, const forms::Control& control, const desktop::views::View& view) {
     const QWidget& widget = view.widget();
     if (const auto* label = dynamic_cast<const forms::Label*>(&control)) {
-        compare_label(comparison, *label, dynamic_cast<const desktop::LabelView&>(view));
+        compare_label(comparison, *label, dynamic_cast<const desktop::views::LabelView&>(view));
     } else if (const auto* button = dynamic_cast<const forms::CommandButton*>(&control)) {
         comparison.expect_words(button->Caption, dynamic_cast<const QAbstractButton&>(widget).text());
     } else if (const auto* tick = dynamic_cast<const forms::CheckBox*>(&control)) {
@@ -169,7 +169,7 @@ void compare_kind(Comparison& comparison, const forms::Control& control, const d
         comparison.expect("Value", bar->Value(), dynamic_cast<const QScrollBar&>(widget).value());
     } else if (const auto* box = dynamic_cast<const forms::TextBox*>(&control)) {
         compare_box(comparison, *box, widget);
-    } else if (const auto* picture = dynamic_cast<const desktop::PictureView*>(&view)) {
+    } else if (const auto* picture = dynamic_cast<const desktop::views::PictureView*>(&view)) {
         compare_picture(comparison, control, *picture);
     }
 }
@@ -185,7 +185,7 @@ void compare_place(Comparison& comparison, const forms::Control& control, const 
 
 std::string difference(const forms::Control& control, const desktop::FormWindow& window) {
     Comparison comparison(name_of(control));
-    const desktop::View* view = window.view(control);
+    const desktop::views::View* view = window.view(control);
     comparison.expect("Visible", control.visible_to_user(), view && view->widget().isVisible());
     if (!view || !control.visible_to_user()) return comparison.found();
     comparison.expect("Enabled", control.enabled_for_user(), view->widget().isEnabled());
@@ -196,7 +196,7 @@ std::string difference(const forms::Control& control, const desktop::FormWindow&
 
 QString name_of_focus(const forms::Form& form, const desktop::FormWindow& window) {
     for (const forms::Control* control : form.controls()) {
-        const desktop::View* view = window.view(*control);
+        const desktop::views::View* view = window.view(*control);
         if (view && &view->widget() == window.focusWidget()) return desktop::to_qt(name_of(*control));
     }
     return QStringLiteral("nothing");

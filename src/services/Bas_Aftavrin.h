@@ -4,6 +4,7 @@
 
 #include "forms/ListBox.h"
 #include "forms/Picture.h"
+#include "resources/Bericht.h"
 #include "services/Programma.h"
 
 namespace forms {
@@ -16,6 +17,9 @@ namespace Bas_Aftavrin {
 // Text of a message. A number of up to three digits gets taalPrefix in front; one of five digits stands as it is. A
 // number without a message is reported, and the text is empty.
 std::string LeesResString(Programma& programma, int nummer);
+inline std::string LeesResString(Programma& programma, resources::Bericht bericht) {
+    return LeesResString(programma, static_cast<int>(bericht));
+}
 
 // The picture of that number; failure 326 if there is none.
 forms::Picture LaadPlaatje(int nummer);

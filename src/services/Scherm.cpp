@@ -3,20 +3,57 @@
 #include "forms/Control.h"
 #include "services/Bas_Aftavrin.h"
 
-std::string Scherm::LeesResString(int nummer) const { return Bas_Aftavrin::LeesResString(programma, nummer); }
+std::string Scherm::LeesResString(Bericht bericht) const { return Bas_Aftavrin::LeesResString(programma, bericht); }
+
+void Scherm::Form_KeyUp(int key_code) {
+    Foutpad(plaatsen_.key_up, [&] {
+        if (key_code == forms::kKeyEscape) Form_QueryUnload();
+    });
+}
+
+void Scherm::Form_QueryUnload() {
+    Foutpad(plaatsen_.query_unload, [&] {
+        verlaat();
+        Unload();
+    });
+}
+
+void Scherm::verlaat() { programma.schermen.toon("frmTavrin01"); }
+
+void Scherm::cmdTerug_Click() {
+    Foutpad(plaatsen_.terug, [&] { Form_QueryUnload(); });
+}
 
 void Scherm::zet_buiten_beeld(forms::Control& control) {
     control.Left = windows().host().screen_size().width + 10;
     control.TabStop = false;
 }
 
-void Scherm::bewaar_keuze(const forms::CheckBox& keuze) {
-    Bas_Aftavrin::SchrijfINI(programma, "Standaard", keuze.name(), std::to_string(keuze.Value),
-                             programma.instellingen());
-}
-
 void Scherm::centreer() {
     const forms::Size screen = windows().host().screen_size();
     Left = static_cast<int>(screen.width - Width) / 2;
     Top = static_cast<int>(screen.height - Height) / 2;
+}
+
+void Scherm::wissel_opschrift(forms::CheckBox& keuze) const {
+    keuze.Caption = LeesResString(keuze.Caption == LeesResString(Bericht::SorteerHoogLaag) ? Bericht::SorteerLaagHoog
+                                                                                           : Bericht::SorteerHoogLaag);
+}
+
+void Scherm::sorteer(const char* plaats, forms::CheckBox& keuze, const std::function<void()>& vul) {
+    Foutpad(plaats, [&] {
+        forms::Control& focus = control("cmdFocus");
+        if (focus.Visible) focus.SetFocus();
+        Bas_Aftavrin::SchrijfINI(programma, "Standaard", keuze.name(), std::to_string(keuze.Value),
+                                 programma.instellingen());
+        vul();
+    });
+}
+
+void Scherm::toon_mappen(const MappenLijst& lijst, const std::string& map) {
+    lijst.keuze.Caption = LeesResString(lijst.keuze.Value == 1 ? Bericht::SorteerLaagHoog : Bericht::SorteerHoogLaag);
+    if (map.empty()) return;
+    std::string pad = map;
+    Bas_Aftavrin::MaakPad(pad);
+    vul_met_mappen(lijst.lijst, lijst.mappen, map, lijst.keuze.Value);
 }

@@ -100,13 +100,13 @@ constexpr std::pair<std::uint16_t, std::uint16_t> kAndereScanCodes[] = {
 };
 
 std::map<std::string, BenoemdeToets> namen() {
-    std::map<std::string, BenoemdeToets> map;
+    std::map<std::string, BenoemdeToets> tabel;
     for (const Naam& rij : kNamen)
-        map[rij.naam] = {rij.toets, rij.extended};
+        tabel[rij.naam] = {rij.toets, rij.extended};
     for (int nummer = 1; nummer <= kFunctieToetsen; ++nummer) {
-        map["F" + std::to_string(nummer)] = {static_cast<std::uint16_t>(kF1 + nummer - 1), false};
+        tabel["F" + std::to_string(nummer)] = {static_cast<std::uint16_t>(kF1 + nummer - 1), false};
     }
-    return map;
+    return tabel;
 }
 
 }  // namespace

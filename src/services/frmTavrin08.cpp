@@ -14,14 +14,15 @@ constexpr int kOgenDicht = 150;
 
 }  // namespace
 
-frmTavrin08::frmTavrin08(Programma& programma) : Scherm(programma, "frmTavrin08", kInner) {
+frmTavrin08::frmTavrin08(Programma& programma) : Scherm(programma, "frmTavrin08", kInner, {}) {
     picSurprice(0).Picture = {0, "gezicht0"};
     picSurprice(1).Picture = {0, "gezicht1"};
     picSurprice.each([](forms::PictureBox& picture) { picture.Visible = false; });
     picShow.Picture = picSurprice(0).Picture();
     picShow.Opaque = false;
     timPic.Interval = kEersteTik;
-    for (const int i : {3, 4, 5}) lblWatWaar(i).AutoSize = true;
+    for (const int i : {3, 4, 5})
+        lblWatWaar(i).AutoSize = true;
     lblFoutInfo.each([](forms::Label& label) { label.AutoSize = true; });
     lblWatWaar(4).FontBold = true;
 
@@ -31,31 +32,36 @@ frmTavrin08::frmTavrin08(Programma& programma) : Scherm(programma, "frmTavrin08"
 }
 
 void frmTavrin08::Form_Load() {
-    Caption = LeesResString(95);
-    cmdAfsluiten.Caption = "&" + LeesResString(7);
-    cmdInterNet.Caption = "&" + LeesResString(97);
-    for (const int i : {0, 1, 2}) lblWatWaar(i).Caption = LeesResString(91 + i);
+    Caption = LeesResString(Bericht::FoutInProgramma);
+    cmdAfsluiten.Caption = "&" + LeesResString(Bericht::Afsluiten);
+    cmdInterNet.Caption = "&" + LeesResString(Bericht::NaarWebsite);
+    lblWatWaar(0).Caption = LeesResString(Bericht::FoutIn);
+    lblWatWaar(1).Caption = LeesResString(Bericht::Foutnummer);
+    lblWatWaar(2).Caption = LeesResString(Bericht::Foutnaam);
 
     lblFoutInfo(0).Caption = gedeeld.foutPlaats;
     lblFoutInfo(1).Caption = forms::property_text(gedeeld.foutNummer);
     lblFoutInfo(2).Caption = gedeeld.foutNaam;
     for (auto* labels : {&lblWatWaar, &lblFoutInfo}) {
-        for (const auto& [index, label] : *labels) label->BorderStyle = 0;
+        for (const auto& [index, label] : *labels)
+            label->BorderStyle = 0;
     }
 
     if (gedeeld.internetOk) {
-        lblWatWaar(3).Caption = replaced(LeesResString(89), "|", "\n");
+        lblWatWaar(3).Caption = replaced(LeesResString(Bericht::FoutMelden), "|", "\n");
     } else {
-        lblWatWaar(3).Caption = replaced(LeesResString(90), "|", "\n");
-        lblWatWaar(5).Caption = LeesResString(96);
+        lblWatWaar(3).Caption = replaced(LeesResString(Bericht::GeenVerbinding), "|", "\n");
+        lblWatWaar(5).Caption = LeesResString(Bericht::AdresVoorMelding);
         cmdInterNet.Visible = false;
     }
-    for (const int i : {3, 4, 5}) lblWatWaar(i).Left = lblWatWaar(1).Left;
-    lblWatWaar(4).Caption = LeesResString(94);
+    for (const int i : {3, 4, 5})
+        lblWatWaar(i).Left = lblWatWaar(1).Left;
+    lblWatWaar(4).Caption = LeesResString(Bericht::NietVrolijk);
 
     // The window is as wide as the longest line needs, as far as the screen goes.
     for (auto* labels : {&lblWatWaar, &lblFoutInfo}) {
-        for (const auto& [index, label] : *labels) Width = std::max(Width(), label->right() + kMarge);
+        for (const auto& [index, label] : *labels)
+            Width = std::max(Width(), label->right() + kMarge);
     }
     Width = std::max(kInner.width, std::min(Width(), windows().host().screen_size().width - 2 * kMarge));
     centreer();
@@ -96,7 +102,8 @@ void frmTavrin08::cmdInterNet_Click() {
 
 void frmTavrin08::cmdAfsluiten_Click() {
     timPic.Enabled = false;
-    programma.platform.message_box(box_style::kInformation, LeesResString(1), replaced(LeesResString(98), "|", "\n"));
+    programma.platform.message_box(box_style::kInformation, LeesResString(Bericht::ProgrammaNaam),
+                                   replaced(LeesResString(Bericht::MeldingInKlembord), "|", "\n"));
     beeindig_programma();
 }
 

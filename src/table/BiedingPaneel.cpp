@@ -17,14 +17,12 @@ auto column(double left, double width, double height) {
 }
 
 template <class T>
-std::array<forms::ControlArray<T>, 4> for_seats(forms::Container& box, const std::string& prefix,
-                                                const BiedingPaneel::Kolommen& kolommen, double beside, double width,
-                                                double height) {
-    const auto seat = [&](const char* letter, int number) {
-        return forms::ControlArray<T>(box, prefix + letter, 0, BiedingPaneel::kRondes - 1,
-                                      column(kolommen.eerste + number * kolommen.stap + beside, width, height));
-    };
-    return {seat("N", 0), seat("O", 1), seat("Z", 2), seat("W", 3)};
+BiedingPaneel::Ronden<T> ronden(forms::Container& box, const std::string& prefix,
+                                const BiedingPaneel::Kolommen& kolommen, double beside, double width, double height) {
+    return BiedingPaneel::Ronden<T>([&](int plaats) {
+        return forms::ControlArray<T>(box, prefix + kaart::kPlaatsLetter(plaats), 0, BiedingPaneel::kRondes - 1,
+                                      column(kolommen.eerste + (plaats - 1) * kolommen.stap + beside, width, height));
+    });
 }
 
 }  // namespace
@@ -36,11 +34,12 @@ BiedingPaneel::BiedingPaneel(forms::Container& parent, const forms::Rect& place,
                  [&](int seat) {
                      return forms::Rect{kolommen.eerste + seat * kolommen.stap, kKopBoven, kolommen.stap, 195};
                  }),
-      lblB(for_seats<forms::Label>(fraBieding, "lblB", kolommen, 0, 150, 270)),
-      picB(for_seats<forms::PictureBox>(fraBieding, "picB", kolommen, kPlaatjeNaast, 210, 210)),
-      lblA(for_seats<forms::Label>(fraBieding, "lblA", kolommen, kTekenNaast, 105, 195)) {
+      lblB(ronden<forms::Label>(fraBieding, "lblB", kolommen, 0, 150, 270)),
+      picB(ronden<forms::PictureBox>(fraBieding, "picB", kolommen, kPlaatjeNaast, 210, 210)),
+      lblA(ronden<forms::Label>(fraBieding, "lblA", kolommen, kTekenNaast, 105, 195)) {
     lblBieding.each([](forms::Label& label) { label.FontBold = true; });
-    for (const auto& [ronde, label] : lblNum) label->Caption = std::to_string(ronde + 1) + ":";
+    for (const auto& [ronde, label] : lblNum)
+        label->Caption = std::to_string(ronde + 1) + ":";
     for (auto& pictures : picB) {
         pictures.each([](forms::PictureBox& picture) {
             picture.Opaque = false;

@@ -1,7 +1,7 @@
 // The bidding box.
 #include "platform/Files.h"
 #include "services/Bas_Aftavrin.h"
-#include "table/Kaarten.h"
+#include "table/KaartenTafel.h"
 #include "table/frmTavrin02.h"
 
 namespace Kaarten {
@@ -11,22 +11,20 @@ namespace {
 constexpr double kHoogte = 3030;      // of the box with all nine rounds
 constexpr double kRondeHoogte = 260;  // what a dropped round takes off, less than the 270 between two rounds
 
-constexpr int kEersteSoortPlaatje = 106;  // strain digits 0 to 4 are the pictures 106 to 110
-
-void lees_bod(Scherm& scherm, LineReader& bestand, BiedingPaneel& paneel, std::size_t plaats, int ronde) {
+void lees_bod(Scherm& scherm, LineReader& bestand, BiedingPaneel& paneel, int plaats, int ronde) {
     Gedeeld& gedeeld = scherm.gedeeld;
     gedeeld.regel = bestand.line();
     gedeeld.delen = split(gedeeld.regel, "~");
     const Pieces& delen = gedeeld.delen;
 
-    forms::Label& bod = paneel.lblB[plaats](ronde);
-    forms::PictureBox& soort = paneel.picB[plaats](ronde);
-    forms::Label& teken = paneel.lblA[plaats](ronde);
+    forms::Label& bod = paneel.lblB(plaats)(ronde);
+    forms::PictureBox& soort = paneel.picB(plaats)(ronde);
+    forms::Label& teken = paneel.lblA(plaats)(ronde);
     bod.Caption = delen[0];
     bod.Tag = delen[1];
     const std::string& cijfer = delen[1];
     if (cijfer.size() == 1 && cijfer[0] >= '0' && cijfer[0] <= '4') {
-        soort.Picture = Bas_Aftavrin::LaadPlaatje(kEersteSoortPlaatje + (cijfer[0] - '0'));
+        soort.Picture = Bas_Aftavrin::LaadPlaatje(resources::plaatje::kKlaveren + (cijfer[0] - '0'));
     }
     teken.Caption = delen[2];
     bod.Visible = !delen[0].empty();
@@ -38,15 +36,18 @@ void lees_bod(Scherm& scherm, LineReader& bestand, BiedingPaneel& paneel, std::s
 
 void ZetPositieBieding(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - ZetPositieBieding", [&] {
-        tafel.fraBieding.Visible = false;
-        tafel.fraBieding.Move(tafel.picBack.Width - tafel.fraBieding.Width - 256, tafel.hand(1)(1).Top - 128);
-        for (int i = 0; i <= 3; ++i) tafel.lblBieding(i).Caption = tafel.LeesResString(10019 + i);
+        BiedingPaneel& paneel = tafel.bieding;
+        paneel.fraBieding.Visible = false;
+        paneel.fraBieding.Move(tafel.picBack.Width - paneel.fraBieding.Width - 256,
+                               tafel.picKaart(kaart::kNoord)(1).Top - 128);
+        for (int i = 0; i <= 3; ++i)
+            paneel.lblBieding(i).Caption = tafel.LeesResString(kaart::bericht_van_plaats(i + 1));
         for (int ronde = 0; ronde < BiedingPaneel::kRondes; ++ronde) {
-            tafel.lblNum(ronde).Visible = false;
-            for (std::size_t plaats = 0; plaats < 4; ++plaats) {
-                tafel.lblB[plaats](ronde).Caption = "";
-                tafel.picB[plaats](ronde).Picture = forms::Picture{};
-                tafel.lblA[plaats](ronde).Caption = "";
+            paneel.lblNum(ronde).Visible = false;
+            for (const int plaats : kaart::kPlaatsen) {
+                paneel.lblB(plaats)(ronde).Caption = "";
+                paneel.picB(plaats)(ronde).Picture = forms::Picture{};
+                paneel.lblA(plaats)(ronde).Caption = "";
             }
         }
     });
@@ -58,7 +59,7 @@ void ToonBieding(Scherm& scherm, BiedingPaneel& paneel) {
         if (aanwezig(pad)) {
             LineReader regels(pad);
             regels.line();
-            for (std::size_t plaats = 0; plaats < 4; ++plaats) {
+            for (const int plaats : kaart::kPlaatsen) {
                 for (int ronde = 0; ronde < BiedingPaneel::kRondes; ++ronde) {
                     lees_bod(scherm, regels, paneel, plaats, ronde);
                 }
@@ -67,7 +68,7 @@ void ToonBieding(Scherm& scherm, BiedingPaneel& paneel) {
         // Noord's column alone tells which rounds there were.
         double hoogte = kHoogte;
         for (int ronde = BiedingPaneel::kRondes - 1; ronde >= 0; --ronde) {
-            const bool gebruikt = paneel.lblB[0](ronde).Visible;
+            const bool gebruikt = paneel.lblB(kaart::kNoord)(ronde).Visible;
             if (!gebruikt) hoogte -= kRondeHoogte;
             paneel.lblNum(ronde).Visible = gebruikt;
         }

@@ -1,14 +1,14 @@
 // The places of the hands, closed and open, and of the information beside them.
 #include "platform/Files.h"
 #include "services/Bas_Aftavrin.h"
-#include "table/Kaarten.h"
+#include "table/KaartenTafel.h"
 #include "table/frmTavrin02.h"
 
 namespace Kaarten {
 
 namespace {
 
-constexpr int kKaarten = 13;
+using resources::Bericht;
 
 // Column of position p in the four rows of a closed side hand, of 4, 3, 3 and 3 cards.
 int kolom_van(int p) { return p <= 4 ? p : (p - 5) % 3 + 1; }
@@ -20,24 +20,24 @@ void zet_kaart(forms::PictureBox& kaart, double left, double top) {
 }
 
 void leg_rij(frmTavrin02& tafel, int plaats, double links, double boven) {
-    for (int p = 1; p <= kKaarten; ++p) {
-        forms::PictureBox& kaart = tafel.hand(plaats)(p);
+    for (int p = 1; p <= kaart::kKaartenPerHand; ++p) {
+        forms::PictureBox& kaart = tafel.picKaart(plaats)(p);
         zet_kaart(kaart, p * tafel.gedeeld.kaartStap + links, boven);
         kaart.Visible = true;
     }
 }
 
 void leg_blok(frmTavrin02& tafel, int plaats, double links, double boven) {
-    for (int p = 1; p <= kKaarten; ++p) {
+    for (int p = 1; p <= kaart::kKaartenPerHand; ++p) {
         if (begint_rij(p)) boven += tafel.gedeeld.rijStap;
-        forms::PictureBox& kaart = tafel.hand(plaats)(p);
+        forms::PictureBox& kaart = tafel.picKaart(plaats)(p);
         zet_kaart(kaart, kolom_van(p) * tafel.gedeeld.kaartStap + links, boven);
         kaart.Visible = true;
     }
 }
 
 void keer_kaart(frmTavrin02& tafel, int plaats, int positie, const std::string& code) {
-    forms::PictureBox& kaart = tafel.hand(plaats)(positie);
+    forms::PictureBox& kaart = tafel.picKaart(plaats)(positie);
     frmTavrin02::toon_kaart(kaart, numeric_value(code));
     kaart.Tag = std::to_string(numeric_value(code));
 }
@@ -47,8 +47,9 @@ template <class Action>
 void voor_elke_kaart(frmTavrin02& tafel, int plaats, Action action) {
     int positie = 0;
     for (const kaart::Kleur kleur : kaart::kToonVolgorde) {
-        const forms::ListBox& lijst = tafel.suit(kleur, plaats);
-        for (int i = lijst.ListCount() - 1; i >= 0; --i) action(++positie, lijst.List(i));
+        const forms::ListBox& lijst = tafel.lijsten.lstKleur(kleur)(plaats);
+        for (int i = lijst.ListCount() - 1; i >= 0; --i)
+            action(++positie, lijst.List(i));
     }
 }
 
@@ -58,7 +59,8 @@ void open_hand(frmTavrin02& tafel, int plaats) {
 }
 
 void maak_zichtbaar(frmTavrin02& tafel, int plaats) {
-    for (int p = 1; p <= kKaarten; ++p) tafel.hand(plaats)(p).Visible = true;
+    for (int p = 1; p <= kaart::kKaartenPerHand; ++p)
+        tafel.picKaart(plaats)(p).Visible = true;
 }
 
 // Places the four suit rows of a side hand. False as soon as a card of a row would pass the limit.
@@ -66,14 +68,14 @@ bool leg_kleuren(frmTavrin02& tafel, int plaats, double links, double boven, dou
     const double stap = tafel.gedeeld.kaartStap;
     int positie = 0;
     for (const kaart::Kleur kleur : kaart::kToonVolgorde) {
-        const forms::ListBox& lijst = tafel.suit(kleur, plaats);
+        const forms::ListBox& lijst = tafel.lijsten.lstKleur(kleur)(plaats);
         int kolom = 0;
         for (int i = lijst.ListCount() - 1; i >= 0; --i) {
             keer_kaart(tafel, plaats, ++positie, lijst.List(i));
-            zet_kaart(tafel.hand(plaats)(positie), ++kolom * stap + links, boven);
+            zet_kaart(tafel.picKaart(plaats)(positie), ++kolom * stap + links, boven);
         }
         // The column that counts is that of the row's last card.
-        if (kolom * stap + links + tafel.hand(plaats)(1).Width + 128 > grens) return false;
+        if (kolom * stap + links + tafel.picKaart(plaats)(1).Width + 128 > grens) return false;
         boven += tafel.gedeeld.rijStap;
     }
     return true;
@@ -86,16 +88,18 @@ void zet_rechts_naast(forms::Control& control, const forms::Control& links, doub
 // The places of the cards played, in the middle between the four hands. Both divisions are those of whole twips.
 void zet_gespeelde_plekken(frmTavrin02& tafel) {
     auto& picPlay = tafel.picPlay;
-    const double west = tafel.hand(4)(4).right();
-    const double oost = tafel.hand(2)(1).Left;
-    const double x = west + static_cast<int>(oost - west - picPlay(1).Width) / 2;
-    picPlay(1).Move(x, tafel.hand(1)(1).bottom() + 128);
-    picPlay(3).Move(x, tafel.hand(3)(1).Top - picPlay(1).Height - 128);
-    const double y = static_cast<int>(picPlay(1).Top + picPlay(3).Top + picPlay(3).Height) / 2 -
-                     static_cast<int>(picPlay(3).Height) / 2;
-    picPlay(4).Move(west + 128, y);
-    picPlay(2).Move(oost - picPlay(1).Width - 128, y);
-    for (int plaats = 1; plaats <= 4; ++plaats) picPlay(plaats).Visible = true;
+    const double west = tafel.picKaart(kaart::kWest)(4).right();
+    const double oost = tafel.picKaart(kaart::kOost)(1).Left;
+    const double x = west + static_cast<int>(oost - west - picPlay(kaart::kNoord).Width) / 2;
+    picPlay(kaart::kNoord).Move(x, tafel.picKaart(kaart::kNoord)(1).bottom() + 128);
+    picPlay(kaart::kZuid).Move(x, tafel.picKaart(kaart::kZuid)(1).Top - picPlay(kaart::kNoord).Height - 128);
+    const double y =
+        static_cast<int>(picPlay(kaart::kNoord).Top + picPlay(kaart::kZuid).Top + picPlay(kaart::kZuid).Height) / 2 -
+        static_cast<int>(picPlay(kaart::kZuid).Height) / 2;
+    picPlay(kaart::kWest).Move(west + 128, y);
+    picPlay(kaart::kOost).Move(oost - picPlay(kaart::kNoord).Width - 128, y);
+    for (const int plaats : kaart::kPlaatsen)
+        picPlay(plaats).Visible = true;
 }
 
 void toon_nummer(frmTavrin02& tafel) {
@@ -103,7 +107,7 @@ void toon_nummer(frmTavrin02& tafel) {
     gedeeld.delen = split(gedeeld.spelNaam, " ");
     if (gedeeld.delen.last() == 0) {
         // A name without a blank gets the word before it; the file names are built with the changed name from here on.
-        gedeeld.spelNaam = tafel.LeesResString(10013) + " " + gedeeld.spelNaam;
+        gedeeld.spelNaam = tafel.LeesResString(Bericht::Spel) + " " + gedeeld.spelNaam;
         gedeeld.delen = split(gedeeld.spelNaam, " ");
     }
     tafel.lblNummer.Caption = std::to_string(numeric_value(gedeeld.delen[1]));
@@ -116,14 +120,14 @@ void toon_contract(frmTavrin02& tafel) {
     gedeeld.regel = eerste_regel(pad);
     gedeeld.delen = split(gedeeld.regel, " ");
     tafel.lblContractWie.Caption = gedeeld.delen[0] + ": " + gedeeld.delen[1];
-    const std::string soort = lower_case(gedeeld.delen[2]);
+    const std::string soort = gedeeld.delen[2];
     for (const kaart::Kleur kleur : kaart::kKleuren) {
-        if (soort != kaart::gegevens(kleur).naam) continue;
+        if (!equal_ignoring_case(soort, kaart::gegevens(kleur).naam)) continue;
         frmTavrin02::toon_symbool(tafel.picContract, kaart::gegevens(kleur).plaatje);
         gedeeld.troefLetter = tafel.LeesResString(kaart::gegevens(kleur).letter);
     }
-    if (soort == "sa") {
-        frmTavrin02::toon_symbool(tafel.picContract, kaart::kPlaatjeSansAtout);
+    if (equal_ignoring_case(soort, "sa")) {
+        frmTavrin02::toon_symbool(tafel.picContract, resources::plaatje::kSansAtout);
         gedeeld.troefLetter.clear();
     }
     tafel.lblInfo(0).Move(tafel.lblSpel.right() - tafel.lblInfo(0).Width, tafel.lblNummer.bottom() + 256);
@@ -157,34 +161,35 @@ void toon_uitkomst(frmTavrin02& tafel) {
 
 void NoordStartPositie(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - NoordStartPositie",
-                  [&] { leg_rij(tafel, 1, tafel.gedeeld.noordLinks, tafel.gedeeld.noordBoven); });
+                  [&] { leg_rij(tafel, kaart::kNoord, tafel.gedeeld.noordLinks, tafel.gedeeld.noordBoven); });
 }
 
 void ZuidStartPositie(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - ZuidStartPositie",
-                  [&] { leg_rij(tafel, 3, tafel.gedeeld.zuidLinks, tafel.gedeeld.zuidBoven); });
+                  [&] { leg_rij(tafel, kaart::kZuid, tafel.gedeeld.zuidLinks, tafel.gedeeld.zuidBoven); });
 }
 
 void OostStartPositie(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - OostStartPositie",
-                  [&] { leg_blok(tafel, 2, tafel.gedeeld.oostLinks, tafel.gedeeld.oostBoven); });
+                  [&] { leg_blok(tafel, kaart::kOost, tafel.gedeeld.oostLinks, tafel.gedeeld.oostBoven); });
 }
 
 void WestStartPositie(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - WestStartPositie",
-                  [&] { leg_blok(tafel, 4, tafel.gedeeld.westLinks, tafel.gedeeld.westBoven); });
+                  [&] { leg_blok(tafel, kaart::kWest, tafel.gedeeld.westLinks, tafel.gedeeld.westBoven); });
 }
 
 void OverigeStartPositie(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - OverigeStartPositie", [&] {
         tafel.gedeeld.troefLetter.clear();
-        for (int p = 1; p <= kKaarten; ++p) {
-            for (int plaats = 1; plaats <= 4; ++plaats) {
-                tafel.hand(plaats)(p).Picture = Bas_Aftavrin::LaadPlaatje(tafel.gedeeld.kaartRugId);
-                tafel.hand(plaats)(p).BorderStyle = 0;
+        for (int p = 1; p <= kaart::kKaartenPerHand; ++p) {
+            for (const int plaats : kaart::kPlaatsen) {
+                tafel.picKaart(plaats)(p).Picture = Bas_Aftavrin::LaadPlaatje(tafel.gedeeld.kaartRugId);
+                tafel.picKaart(plaats)(p).BorderStyle = 0;
             }
         }
-        for (int plaats = 2; plaats <= 4; ++plaats) tafel.picPlay.Load(plaats);
+        for (int plaats = 2; plaats <= 4; ++plaats)
+            tafel.picPlay.Load(plaats);
         tafel.Refresh();
         zet_gespeelde_plekken(tafel);
 
@@ -197,7 +202,7 @@ void OverigeStartPositie(frmTavrin02& tafel) {
         tafel.lblSlagenNZ.Caption = "0";
         tafel.lblSlagenOW.Caption = "0";
 
-        tafel.lblSpel.Move(150, tafel.hand(1)(1).Top + 180);
+        tafel.lblSpel.Move(150, tafel.picKaart(kaart::kNoord)(1).Top + 180);
         zet_rechts_naast(tafel.lblNummer, tafel.lblSpel, 180, tafel.lblSpel.Top - 64);
         toon_nummer(tafel);
         toon_contract(tafel);
@@ -207,22 +212,21 @@ void OverigeStartPositie(frmTavrin02& tafel) {
 
 void NoordZijnKaarten(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - NoordZijnKaarten", [&] {
-        open_hand(tafel, 1);
-        maak_zichtbaar(tafel, 1);
+        open_hand(tafel, kaart::kNoord);
+        maak_zichtbaar(tafel, kaart::kNoord);
     });
 }
 
 void ZuidZijnKaarten(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - ZuidZijnKaarten", [&] {
-        open_hand(tafel, 3);
-        maak_zichtbaar(tafel, 3);
-        const std::array kopie{&tafel.lstZuidSchoppen, &tafel.lstZuidHarten, &tafel.lstZuidRuiten,
-                               &tafel.lstZuidKlaveren};
+        open_hand(tafel, kaart::kZuid);
+        maak_zichtbaar(tafel, kaart::kZuid);
         for (const kaart::Kleur kleur : kaart::kKleuren) {
-            forms::ListBox& doel = *kopie[static_cast<std::size_t>(kleur)];
-            const forms::ListBox& bron = tafel.suit(kleur, 3);
+            forms::ListBox& doel = tafel.lstZuid(kleur);
+            const forms::ListBox& bron = tafel.lijsten.lstKleur(kleur)(kaart::kZuid);
             doel.Clear();
-            for (int i = bron.ListCount() - 1; i >= 0; --i) doel.AddItem(bron.List(i));
+            for (int i = bron.ListCount() - 1; i >= 0; --i)
+                doel.AddItem(bron.List(i));
         }
     });
 }
@@ -232,27 +236,28 @@ void OostZijnKaarten(frmTavrin02& tafel) {
         // A row that would run into the box of played cards moves the whole hand one step to the left.
         double links = tafel.gedeeld.oostLinks;
         const double grens = tafel.fraSlagen.Left;
-        while (!leg_kleuren(tafel, 2, links, tafel.gedeeld.oostBoven, grens)) links -= tafel.gedeeld.kaartStap;
-        maak_zichtbaar(tafel, 2);
+        while (!leg_kleuren(tafel, kaart::kOost, links, tafel.gedeeld.oostBoven, grens))
+            links -= tafel.gedeeld.kaartStap;
+        maak_zichtbaar(tafel, kaart::kOost);
     });
 }
 
 void WestZijnKaarten(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - WestZijnKaarten", [&] {
         constexpr double kGeenGrens = 1e9;
-        leg_kleuren(tafel, 4, tafel.gedeeld.westLinks, tafel.gedeeld.westBoven, kGeenGrens);
-        maak_zichtbaar(tafel, 4);
+        leg_kleuren(tafel, kaart::kWest, tafel.gedeeld.westLinks, tafel.gedeeld.westBoven, kGeenGrens);
+        maak_zichtbaar(tafel, kaart::kWest);
     });
 }
 
 void ToonKaartenDummy(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - ToonKaartenDummy", [&] {
         const std::string wind = trimmed(tafel.gedeeld.dummyWind);
-        for (int plaats = 1; plaats <= 4; ++plaats) {
+        for (const int plaats : kaart::kPlaatsen) {
             if (wind != tafel.LeesResString(kaart::bericht_van_plaats(plaats))) continue;
             open_hand(tafel, plaats);
             // The closed hand of the opening leader shows twelve backs from now on.
-            tafel.hand(kaart::vorige_plaats(plaats))(kKaarten).Visible = false;
+            tafel.picKaart(kaart::vorige_plaats(plaats))(kaart::kKaartenPerHand).Visible = false;
         }
     });
 }
@@ -260,7 +265,7 @@ void ToonKaartenDummy(frmTavrin02& tafel) {
 void ToonKaartenLeider(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - ToonKaartenLeider", [&] {
         const std::string wind = trimmed(tafel.gedeeld.leiderWind);
-        for (int plaats = 1; plaats <= 4; ++plaats) {
+        for (const int plaats : kaart::kPlaatsen) {
             if (wind == tafel.LeesResString(kaart::bericht_van_plaats(plaats))) open_hand(tafel, plaats);
         }
     });

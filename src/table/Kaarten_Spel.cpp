@@ -1,15 +1,12 @@
 // The cards as they are played.
 #include "platform/Files.h"
 #include "services/Bas_Aftavrin.h"
-#include "table/Kaarten.h"
+#include "table/KaartenTafel.h"
 #include "table/frmTavrin02.h"
 
 namespace Kaarten {
 
 namespace {
-
-constexpr int kKaarten = 13;
-constexpr int kSlagen = 13;
 
 // Code of the opening lead; 0 for a value word or suit digit that is unknown.
 int code_van_uitkomst(const std::string& kaart) {
@@ -19,7 +16,7 @@ int code_van_uitkomst(const std::string& kaart) {
 }
 
 int plaats_van_woord(const Scherm& scherm, const std::string& woord) {
-    for (int plaats = 1; plaats <= 4; ++plaats) {
+    for (const int plaats : kaart::kPlaatsen) {
         if (lower_case(trimmed(woord)) == lower_case(scherm.LeesResString(kaart::bericht_van_plaats(plaats)))) {
             return plaats;
         }
@@ -29,7 +26,7 @@ int plaats_van_woord(const Scherm& scherm, const std::string& woord) {
 
 // Hides the card of that code; true if the hand shows it open.
 bool verberg_kaart(forms::ControlArray<forms::PictureBox>& hand, int code) {
-    for (int p = 1; p <= kKaarten; ++p) {
+    for (int p = 1; p <= kaart::kKaartenPerHand; ++p) {
         if (hand(p).Tag != std::to_string(code)) continue;
         hand(p).Visible = false;
         return true;
@@ -39,7 +36,7 @@ bool verberg_kaart(forms::ControlArray<forms::PictureBox>& hand, int code) {
 
 // A closed hand loses cards from its end, without telling which.
 void verberg_laatste_kaart(forms::ControlArray<forms::PictureBox>& hand) {
-    for (int p = kKaarten; p >= 1; --p) {
+    for (int p = kaart::kKaartenPerHand; p >= 1; --p) {
         if (!hand(p).Visible) continue;
         hand(p).Visible = false;
         return;
@@ -47,7 +44,7 @@ void verberg_laatste_kaart(forms::ControlArray<forms::PictureBox>& hand) {
 }
 
 const Pieces& speelrij(frmTavrin02& tafel) {
-    tafel.gedeeld.delen = split(tafel.lstAfTavrin.List(tafel.gedeeld.slagRij), "|");
+    tafel.gedeeld.delen = split(tafel.lijsten.lstAfTavrin.List(tafel.gedeeld.slagRij), "|");
     return tafel.gedeeld.delen;
 }
 
@@ -61,7 +58,7 @@ void PlaatdeUitkomst(frmTavrin02& tafel) {
         gedeeld.delen = split(gedeeld.regel, " - ");
         const int code = code_van_uitkomst(gedeeld.delen[1]);
         const int uitkomer = plaats_van_woord(tafel, gedeeld.delen[0]);
-        auto& hand = tafel.hand(uitkomer);
+        auto& hand = tafel.picKaart(uitkomer);
 
         frmTavrin02::toon_kaart(tafel.picPlay(uitkomer), code);
         gedeeld.dummyWind = tafel.LeesResString(kaart::bericht_van_plaats(kaart::volgende_plaats(uitkomer)));
@@ -80,8 +77,9 @@ void PlaatdeUitkomst(frmTavrin02& tafel) {
 void PlaatsKaart(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - PlaatsKaart", [&] {
         Gedeeld& gedeeld = tafel.gedeeld;
-        if (gedeeld.slagRij >= kSlagen) {
-            for (int plaats = 1; plaats <= 4; ++plaats) tafel.picPlay(plaats).Visible = false;
+        if (gedeeld.slagRij >= kaart::kSlagen) {
+            for (const int plaats : kaart::kPlaatsen)
+                tafel.picPlay(plaats).Visible = false;
             NoordZijnKaarten(tafel);
             OostZijnKaarten(tafel);
             ZuidZijnKaarten(tafel);
@@ -92,7 +90,7 @@ void PlaatsKaart(frmTavrin02& tafel) {
         const std::size_t plek = delen[0].find(std::to_string(gedeeld.aanDeBeurt));
         if (plek == std::string::npos) throw Fout(FoutNummer::InvalidCall, delen[0]);
         const int code = numeric_value(delen[delen[0][plek] - '0']);
-        auto& hand = tafel.hand(gedeeld.aanDeBeurt);
+        auto& hand = tafel.picKaart(gedeeld.aanDeBeurt);
 
         frmTavrin02::toon_kaart(tafel.picPlay(gedeeld.aanDeBeurt), code);
         gedeeld.kaartenInSlag += 1;
@@ -109,11 +107,11 @@ void ToonGespeeldeKaart(frmTavrin02& tafel) {
         const int nummer = kaart::nummer_van(speelrij(tafel)[gedeeld.aanDeBeurt]);
         const kaart::Kleur kleur = kaart::kleur_van(nummer);
 
-        forms::PictureBox& symbool = frmTavrin02::van_plaats(tafel.picGespeeld, gedeeld.aanDeBeurt)(slag);
-        forms::Label& woord = frmTavrin02::van_plaats(tafel.lblGespeeld, gedeeld.aanDeBeurt)(slag);
+        forms::PictureBox& symbool = tafel.picGespeeld(gedeeld.aanDeBeurt)(slag);
+        forms::Label& woord = tafel.lblGespeeld(gedeeld.aanDeBeurt)(slag);
         symbool.Picture = tafel.picSym(static_cast<int>(kleur) + 1).Picture();
         woord.ForeColor = kaart::gegevens(kleur).tekstkleur;
-        woord.Caption = tafel.lstKaarten.List(nummer);
+        woord.Caption = tafel.lijsten.lstKaarten.List(nummer);
         symbool.BorderStyle = 0;
         symbool.Visible = true;
         woord.Visible = true;

@@ -1,8 +1,8 @@
 // The teacher's words: the question before the play, and the text of a card.
 #include "platform/Files.h"
 #include "services/Bas_Aftavrin.h"
-#include "table/Kaarten.h"
-#include "table/Knip_Tekst.h"
+#include "services/Knip_Tekst.h"
+#include "table/KaartenTafel.h"
 #include "table/frmTavrin02.h"
 
 namespace Kaarten {
@@ -11,7 +11,7 @@ namespace {
 
 constexpr double kInformatieHoogte = 2827;
 constexpr int kSpareLines = 5;
-constexpr double kTwipsPerPoint = 15;
+constexpr double kLineHeightPerPoint = 15;  // twips
 
 // The first record whose number at its head is that of the current card; -1 if there is none.
 int record_van_kaart(const frmTavrin02& tafel) {
@@ -58,9 +58,9 @@ void LeesVraag(frmTavrin02& tafel) {
         vraag.Text = "";
         tafel.txtKnipTekst.Text = "";
         tafel.lstKnipTekst.Clear();
-        vraag.Width = tafel.fraBieding.Width;
-        vraag.Move(tafel.fraBieding.Left, tafel.hand(2)(1).Top);
-        vraag.Height = tafel.hand(3)(1).bottom() - vraag.Top;
+        vraag.Width = tafel.bieding.fraBieding.Width;
+        vraag.Move(tafel.bieding.fraBieding.Left, tafel.picKaart(kaart::kOost)(1).Top);
+        vraag.Height = tafel.picKaart(kaart::kZuid)(1).bottom() - vraag.Top;
 
         const std::string pad = bestand(tafel.gedeeld, " vraag.txt");
         if (aanwezig(pad)) {
@@ -76,7 +76,7 @@ void LeesVraag(frmTavrin02& tafel) {
         std::string tekst = met_regeleinden(tafel.lstKnipTekst);
         tekst.pop_back();  // the line feed alone goes; the carriage return stays
         vraag.Text = tekst;
-        vraag.Height = (tafel.lstKnipTekst.ListCount() + kSpareLines) * vraag.FontSize * kTwipsPerPoint;
+        vraag.Height = (tafel.lstKnipTekst.ListCount() + kSpareLines) * vraag.FontSize * kLineHeightPerPoint;
         vraag.Visible = true;
     });
 }

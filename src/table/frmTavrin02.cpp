@@ -4,7 +4,7 @@
 #include "cards/Kaarten.h"
 #include "resources/PictureTable.h"
 #include "services/Bas_Aftavrin.h"
-#include "table/Kaarten.h"
+#include "table/KaartenTafel.h"
 
 namespace {
 
@@ -13,15 +13,11 @@ constexpr double kKaartBreedte = 1560;
 constexpr double kKaartHoogte = 2340;
 constexpr double kSymbool = 210;
 constexpr double kTussenruimte = 128;
-constexpr BiedingPaneel::Kolommen kBiedingKolommen{750, 1200};
 
-constexpr int kSlagen = 13;
-constexpr int kKaarten = 52;
 constexpr double kEersteKolom = 900;
 constexpr double kKolomStap = 1200;
 constexpr double kWoordNaastSymbool = 270;
-constexpr double kRijTop[kSlagen] = {360,  615,  885,  1140, 1410, 1665, 1935,
-                                     2190, 2460, 2715, 2985, 3240, 3510};
+constexpr double kRijTop[kaart::kSlagen] = {360, 615, 885, 1140, 1410, 1665, 1935, 2190, 2460, 2715, 2985, 3240, 3510};
 
 constexpr int kTraagst = 3000;  // milliseconds a card, as the two below
 constexpr int kSnelst = 100;
@@ -31,47 +27,45 @@ constexpr Colour kTafelgroen = Colour::rgb(24, 96, 60);
 constexpr Colour kWit = Colour::rgb(255, 255, 255);
 constexpr Colour kPapier = Colour::rgb(252, 250, 240);
 
-template <class T>
-tafel::PerPlaats<T> voor_plaatsen(const std::array<const char*, 4>& namen,
-                                  const std::function<forms::ControlArray<T>(const char*, int)>& maak) {
-    return {maak(namen[0], 0), maak(namen[1], 1), maak(namen[2], 2), maak(namen[3], 3)};
-}
-
-double kolom(int plaats) { return kEersteKolom + kKolomStap * plaats; }
+double kolom(int plaats) { return kEersteKolom + kKolomStap * (plaats - 1); }
 
 }  // namespace
 
 frmTavrin02::frmTavrin02(Programma& programma)
-    : Scherm(programma, "frmTavrin02", kInner),
-      Vlak(static_cast<forms::Form&>(*this)),
-      HandLijsten(static_cast<forms::Form&>(*this)),
-      BiedingPaneel(picBack, {10710, 180, 5325, 3105}, kBiedingKolommen),
-      picKaart(voor_plaatsen<forms::PictureBox>(
-          {"picKaartNoord", "picKaartOost", "picKaartZuid", "picKaartWest"},
-          [this](const char* naam, int) {
-              return forms::ControlArray<forms::PictureBox>(picBack, naam, {{1, {0, 0, kKaartBreedte, kKaartHoogte}}});
-          })),
+    : Scherm(programma, "frmTavrin02", kInner,
+             {.key_up = "frmTavrin02 - Form - KeyUp",
+              .terug = "frmTavrin02 - cmdTerug - Click",
+              .query_unload = "frmTavrin02 - Form - QueryUnload"}),
+      picKaart([this](int plaats) {
+          return forms::ControlArray<forms::PictureBox>(picBack, std::string("picKaart") + kaart::kPlaatsNaam(plaats),
+                                                        {{1, {0, 0, kKaartBreedte, kKaartHoogte}}});
+      }),
       picPlay(picBack, "picPlay", {{1, {0, 0, kKaartBreedte, kKaartHoogte}}}),
-      lblWind(fraSlagen, "lblWind", 0, 3, [](int i) { return forms::Rect{kolom(i), 90, 900, 195}; }),
-      lblSlag(fraSlagen, "lblSlag", 1, kSlagen,
-              [](int slag) { return forms::Rect{slag < 10 ? 150.0 : 90.0, kRijTop[slag - 1], 750, 195}; }),
-      picGespeeld(voor_plaatsen<forms::PictureBox>(
-          {"picN", "picO", "picZ", "picW"},
-          [this](const char* naam, int plaats) {
-              return forms::ControlArray<forms::PictureBox>(fraSlagen, naam, 1, kSlagen, [plaats](int slag) {
+      lblWind(fraSlagen, "lblWind", 0, 3,
+              [](int i) {
+                  return forms::Rect{kolom(i + 1), 90, 900, 195};
+              }),
+      lblSlag(fraSlagen, "lblSlag", 1, kaart::kSlagen,
+              [](int slag) {
+                  return forms::Rect{slag < 10 ? 150.0 : 90.0, kRijTop[slag - 1], 750, 195};
+              }),
+      picGespeeld([this](int plaats) {
+          return forms::ControlArray<forms::PictureBox>(
+              fraSlagen, std::string("pic") + kaart::kPlaatsLetter(plaats), 1, kaart::kSlagen, [plaats](int slag) {
                   return forms::Rect{kolom(plaats), 390.0 + 260 * (slag - 1), kSymbool, kSymbool};
               });
-          })),
-      lblGespeeld(voor_plaatsen<forms::Label>(
-          {"lblN", "lblO", "lblZ", "lblW"},
-          [this](const char* naam, int plaats) {
-              return forms::ControlArray<forms::Label>(fraSlagen, naam, 1, kSlagen, [plaats](int slag) {
+      }),
+      lblGespeeld([this](int plaats) {
+          return forms::ControlArray<forms::Label>(
+              fraSlagen, std::string("lbl") + kaart::kPlaatsLetter(plaats), 1, kaart::kSlagen, [plaats](int slag) {
                   return forms::Rect{kolom(plaats) + kWoordNaastSymbool, kRijTop[slag - 1], 900, 255};
               });
-          })),
-      picSym(*this, "picSym", 1, 4, [](int) { return forms::Rect{0, 0, kSymbool, kSymbool}; }) {
+      }),
+      picSym(*this, "picSym", 1, 4, [](int) {
+          return forms::Rect{0, 0, kSymbool, kSymbool};
+      }) {
     stel_uiterlijk_in();
-    cmdTerug.Click = [this] { Foutpad("frmTavrin02 - cmdTerug - Click", [this] { Form_QueryUnload(); }); };
+    cmdTerug.Click = [this] { cmdTerug_Click(); };
     cmdStart.Click = [this] { cmdStart_Click(); };
     cmdVerder.Click = [this] { cmdVerder_Click(); };
     vscrSnelHeid.Change = [this] { vscrSnelHeid_Change(); };
@@ -86,28 +80,32 @@ frmTavrin02::frmTavrin02(Programma& programma)
 void frmTavrin02::stel_uiterlijk_in() {
     picBack.BackColor = kTafelgroen;
     picBack.Visible = false;
-    for (auto& hand : picKaart) hand.each([](forms::PictureBox& kaart) { kaart.Opaque = false; });
-    picKaart[0](1).Visible = picKaart[1](1).Visible = picKaart[2](1).Visible = picKaart[3](1).Visible = false;
+    for (auto& hand : picKaart) {
+        hand.each([](forms::PictureBox& kaart) { kaart.Opaque = false; });
+        hand(1).Visible = false;
+    }
     picPlay.each([](forms::PictureBox& kaart) {
         kaart.Opaque = false;
         kaart.BorderStyle = 1;
         kaart.Visible = false;
     });
-    for (forms::Frame* doos : {&fraBieding, &fraSlagen}) {
+    for (forms::Frame* doos : {&bieding.fraBieding, &fraSlagen}) {
         doos->BackColor = kPapier;
         doos->Visible = false;
     }
-    for (auto& symbolen : picGespeeld) symbolen.each([](forms::PictureBox& symbool) { symbool.Opaque = false; });
+    for (auto& symbolen : picGespeeld)
+        symbolen.each([](forms::PictureBox& symbool) { symbool.Opaque = false; });
     for (const auto& [plaats, symbool] : picSym) {
         symbool->Picture = Bas_Aftavrin::LaadPlaatje(kaart::gegevens(static_cast<kaart::Kleur>(plaats - 1)).plaatje);
         symbool->Visible = false;
     }
     for (const auto& [slag, opschrift] : lblSlag) {
-        opschrift->Caption = LeesResString(52) + " " + std::to_string(slag) + ":";
+        opschrift->Caption = LeesResString(Bericht::Slag) + " " + std::to_string(slag) + ":";
         opschrift->Visible = false;
     }
     lblWind.each([](forms::Label& opschrift) { opschrift.FontBold = true; });
-    for (const auto& [i, opschrift] : lblWind) opschrift->Caption = LeesResString(19 + i);
+    for (const auto& [i, opschrift] : lblWind)
+        opschrift->Caption = LeesResString(kaart::bericht_van_plaats(i + 1));
 
     const auto op_de_tafel = [](forms::Label& opschrift, double punten) {
         opschrift.FontSize = punten;
@@ -158,11 +156,9 @@ void frmTavrin02::toon_kaart(forms::PictureBox& plek, int kaartcode) {
 void frmTavrin02::Form_Load() {
     Foutpad("frmTavrin02 - Form - Load", [&] {
         zet_buiten_beeld(cmdFocus);
-        picBack.Height = 10275;
-        picBack.Width = 19065;
-        gedeeld.kaartRugId = kaart::kKaartRug;
+        gedeeld.kaartRugId = resources::plaatje::kKaartRug;
         Kaarten::ZetVariabelenOpNul(gedeeld);
-        Caption = LeesResString(10001);
+        Caption = LeesResString(Bericht::ProgrammaNaam);
         WindowState = forms::WindowState::Maximised;
         const forms::Size screen = windows().host().screen_size();
         picBack.Move(static_cast<int>(screen.width - picBack.Width) / 2,
@@ -171,19 +167,20 @@ void frmTavrin02::Form_Load() {
         picBack.BorderStyle = 1;
         Refresh();
 
-        lstAfTavrin.Clear();
+        lijsten.lstAfTavrin.Clear();
         lstKnipTekst.Clear();
         txtVraag.Text = "";
         txtInformatie.Text = "";
         txtKnipTekst.Text = "";
         zet_opschriften();
-        for (int p = 2; p <= 13; ++p) {
-            for (int plaats = 1; plaats <= 4; ++plaats) hand(plaats).Load(p);
+        for (int p = 2; p <= kaart::kKaartenPerHand; ++p) {
+            for (const int plaats : kaart::kPlaatsen)
+                picKaart(plaats).Load(p);
         }
         cmdTerug.Move(picBack.Left, picBack.bottom() + kTussenruimte);
         cmdStart.Move(picBack.right() - cmdStart.Width, cmdTerug.Top);
         cmdVerder.Move(cmdStart.Left, cmdTerug.Top);
-        vul_kaarten();
+        lijsten.vul_kaarten();
         zet_gespeelde_kaarten_klaar();
 
         gedeeld.kaartStap = 570;
@@ -204,36 +201,36 @@ void frmTavrin02::Form_Load() {
         Kaarten::WestStartPositie(*this);
         Kaarten::OverigeStartPositie(*this);
         Kaarten::ZetPositieBieding(*this);
-        Kaarten::ToonBieding(*this, *this);
-        Kaarten::LeesKartenBestandIn(*this, *this);
-        Kaarten::VerdeelDeKaarten(*this, *this);
+        Kaarten::ToonBieding(*this, bieding);
+        Kaarten::LeesKartenBestandIn(*this, lijsten);
+        Kaarten::VerdeelDeKaarten(*this, lijsten);
         Kaarten::LeesVraag(*this);
 
         lees_snelheid();
-        lblSnelHeid.Caption = LeesResString(10068) + ":";
+        lblSnelHeid.Caption = LeesResString(Bericht::Afspeelsnelheid) + ":";
         lblSnelHeid.Refresh();
         zet_snelheid_op_zijn_plaats();
     });
 }
 
 void frmTavrin02::zet_opschriften() {
-    lblSpel.Caption = LeesResString(10013) + ":";
-    lblInfo(0).Caption = LeesResString(10014) + ":";
-    lblInfo(1).Caption = LeesResString(10015) + ":";
-    lblToonSlagen(0).Caption = LeesResString(10016) + ":";
-    lblToonSlagen(1).Caption = LeesResString(10017) + ":";
-    cmdTerug.Caption = "&" + LeesResString(10018);
-    cmdStart.Caption = "&" + LeesResString(10023);
-    cmdVerder.Caption = "&" + LeesResString(10024);
+    lblSpel.Caption = LeesResString(Bericht::Spel) + ":";
+    lblInfo(0).Caption = LeesResString(Bericht::Contract) + ":";
+    lblInfo(1).Caption = LeesResString(Bericht::Uitkomst) + ":";
+    lblToonSlagen(0).Caption = LeesResString(Bericht::SlagenNoordZuid) + ":";
+    lblToonSlagen(1).Caption = LeesResString(Bericht::SlagenOostWest) + ":";
+    cmdTerug.Caption = "&" + LeesResString(Bericht::Terug);
+    cmdStart.Caption = "&" + LeesResString(Bericht::Start);
+    cmdVerder.Caption = "&" + LeesResString(Bericht::Verder);
 }
 
 void frmTavrin02::zet_gespeelde_kaarten_klaar() {
-    for (int slag = 1; slag <= kSlagen; ++slag) {
-        for (std::size_t plaats = 0; plaats < 4; ++plaats) {
-            picGespeeld[plaats](slag).Visible = false;
-            lblGespeeld[plaats](slag).Visible = false;
-            picGespeeld[plaats](slag).Top = picGespeeld[0](slag).Top;
-            lblGespeeld[plaats](slag).Top = lblGespeeld[0](slag).Top;
+    for (int slag = 1; slag <= kaart::kSlagen; ++slag) {
+        for (const int plaats : kaart::kPlaatsen) {
+            picGespeeld(plaats)(slag).Visible = false;
+            lblGespeeld(plaats)(slag).Visible = false;
+            picGespeeld(plaats)(slag).Top = picGespeeld(kaart::kNoord)(slag).Top;
+            lblGespeeld(plaats)(slag).Top = lblGespeeld(kaart::kNoord)(slag).Top;
         }
     }
 }
@@ -264,18 +261,9 @@ void frmTavrin02::Form_Activate() {
     Foutpad("frmTavrin02 - Form - Activate", [&] { cmdStart.SetFocus(); });
 }
 
-void frmTavrin02::Form_KeyUp(int key_code) {
-    Foutpad("frmTavrin02 - Form - KeyUp", [&] {
-        if (key_code == forms::kKeyEscape) Form_QueryUnload();
-    });
-}
-
-void frmTavrin02::Form_QueryUnload() {
-    Foutpad("frmTavrin02 - Form - QueryUnload", [&] {
-        timSpeelKaart.Enabled = false;
-        programma.schermen.toon("frmTavrin01");
-        Unload();
-    });
+void frmTavrin02::verlaat() {
+    timSpeelKaart.Enabled = false;
+    Scherm::verlaat();
 }
 
 void frmTavrin02::cmdStart_Click() {
@@ -284,10 +272,10 @@ void frmTavrin02::cmdStart_Click() {
         cmdStart.Visible = false;
         txtVraag.Text = "";
         txtVraag.Visible = false;
-        fraSlagen.Move(fraBieding.Left, fraBieding.bottom() + kTussenruimte);
+        fraSlagen.Move(bieding.fraBieding.Left, bieding.fraBieding.bottom() + kTussenruimte);
         fraSlagen.Visible = true;
         txtInformatie.Width = txtVraag.Width();
-        txtInformatie.Move(txtVraag.Left, hand(2)(13).bottom() + kTussenruimte);
+        txtInformatie.Move(txtVraag.Left, picKaart(kaart::kOost)(kaart::kKaartenPerHand).bottom() + kTussenruimte);
         Kaarten::PlaatdeUitkomst(*this);
         Kaarten::ToonKaartenDummy(*this);
         Kaarten::ToonKaartenLeider(*this);
@@ -318,7 +306,7 @@ frmTavrin02::Tik frmTavrin02::timSpeelKaart_Timer() {
             if (gedeeld.aanDeBeurt > 4) gedeeld.aanDeBeurt = 1;
             if (gedeeld.kaartenInSlag > 3) nieuwe_slag();
             Kaarten::PlaatsKaart(*this);
-            if (gedeeld.kaartTeller < kKaarten) {
+            if (gedeeld.kaartTeller < kaart::kKaarten) {
                 tik = Tik::Verder;
             } else {
                 spel_is_uit();
@@ -333,24 +321,25 @@ frmTavrin02::Tik frmTavrin02::timSpeelKaart_Timer() {
 
 void frmTavrin02::nieuwe_slag() {
     gedeeld.kaartenInSlag = 0;
-    for (int plaats = 1; plaats <= 4; ++plaats) {
+    for (const int plaats : kaart::kPlaatsen) {
         picPlay(plaats).Picture = forms::Picture{};
         picPlay(plaats).BorderStyle = 1;
         picPlay(plaats).AccessibleName = "";
     }
     gedeeld.slagRij += 1;
-    gedeeld.delen = split(lstAfTavrin.List(gedeeld.slagRij), "|");
+    gedeeld.delen = split(lijsten.lstAfTavrin.List(gedeeld.slagRij), "|");
     // Who leads this trick won the one before.
     const int uitkomer = numeric_value(left(gedeeld.delen[0], 1));
     forms::Label* teller = nullptr;
-    if (uitkomer == 1 || uitkomer == 3) teller = &lblSlagenNZ;
-    if (uitkomer == 2 || uitkomer == 4) teller = &lblSlagenOW;
+    if (uitkomer == kaart::kNoord || uitkomer == kaart::kZuid) teller = &lblSlagenNZ;
+    if (uitkomer == kaart::kOost || uitkomer == kaart::kWest) teller = &lblSlagenOW;
     if (teller) {
         teller->Caption = std::to_string(numeric_value(teller->Caption()) + 1);
         teller->Refresh();
     }
-    if (gedeeld.slagRij >= kSlagen) {
-        for (int plaats = 1; plaats <= 4; ++plaats) picPlay(plaats).Visible = false;
+    if (gedeeld.slagRij >= kaart::kSlagen) {
+        for (const int plaats : kaart::kPlaatsen)
+            picPlay(plaats).Visible = false;
         txtVraag.Text = "";
         txtVraag.Visible = false;
         open_alle_handen();
@@ -366,10 +355,11 @@ void frmTavrin02::spel_is_uit() {
     // Noord-Zuid in every deal. That is meant.
     lstKlaar.Clear();
     lstAnderKleur.Clear();
-    for (int i = 0; i < 4; ++i) lstAnderKleur.AddItem(" ");
+    for (int i = 0; i < 4; ++i)
+        lstAnderKleur.AddItem(" ");
     lblSlagenNZ.Caption = std::to_string(numeric_value(lblSlagenNZ.Caption()) + 1);
     lblSlagenNZ.Refresh();
-    for (int plaats = 1; plaats <= 4; ++plaats) {
+    for (const int plaats : kaart::kPlaatsen) {
         picPlay(plaats).Picture = forms::Picture{};
         picPlay(plaats).AccessibleName = "";
     }

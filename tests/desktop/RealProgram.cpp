@@ -6,9 +6,6 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPointer>
-#include <QScrollBar>
-#include <QStyleOptionSlider>
-#include <QTableWidget>
 #include <QTextBlock>
 #include <QTextEdit>
 #include <QTextLayout>
@@ -20,12 +17,10 @@
 
 #include "app/Start.h"
 #include "desktop/Text.h"
-#include "desktop/View.h"
+#include "desktop/views/View.h"
 #include "forms/CommandButton.h"
-#include "forms/FlexGrid.h"
 #include "forms/ListBox.h"
 #include "forms/TextBox.h"
-#include "forms/VScrollBar.h"
 #include "platform/IniFile.h"
 
 namespace fs = std::filesystem;
@@ -57,7 +52,7 @@ void RealProgram::start_program() {
 
 QWidget& RealProgram::widget(const forms::Control& control) {
     const desktop::FormWindow* of_form = host.window(&control.form());
-    const desktop::View* view = of_form ? of_form->view(control) : nullptr;
+    const desktop::views::View* view = of_form ? of_form->view(control) : nullptr;
     if (!view) throw std::logic_error(control.name() + " has no widget");
     return view->widget();
 }
@@ -86,19 +81,6 @@ void RealProgram::click_line(const forms::ListBox& list, const std::string& text
     const auto found = std::ranges::find(all, text);
     ASSERT_NE(found, all.end()) << text;
     click_line(list, static_cast<int>(found - all.begin()));
-}
-
-void RealProgram::click_cell(const forms::FlexGrid& grid, int row, int col) {
-    auto& table = widget_as<QTableWidget>(grid);
-    click_at(*table.viewport(), table.visualItemRect(table.item(row, col)).center());
-}
-
-void RealProgram::click_arrow(const forms::VScrollBar& bar, QStyle::SubControl arrow) {
-    auto& shown_bar = widget_as<QScrollBar>(bar);
-    QStyleOptionSlider option;
-    option.initFrom(&shown_bar);
-    option.orientation = Qt::Vertical;
-    click_at(shown_bar, shown_bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, arrow, &shown_bar).center());
 }
 
 void RealProgram::key(Qt::Key key, Qt::KeyboardModifiers held) { QTest::keyClick(window().windowHandle(), key, held); }
@@ -135,15 +117,6 @@ std::vector<std::string> RealProgram::lines(const forms::ListBox& list) {
         all.push_back(desktop::from_qt(model.data(model.index(row, 0)).toString()));
     }
     return all;
-}
-
-std::vector<int> RealProgram::highlighted(const forms::ListBox& list) {
-    std::vector<int> found;
-    for (const QModelIndex& line : widget_as<QListView>(list).selectionModel()->selectedIndexes()) {
-        found.push_back(line.row());
-    }
-    std::ranges::sort(found);
-    return found;
 }
 
 QStringList RealProgram::drawn_lines(const forms::TextBox& box) {
@@ -183,11 +156,6 @@ std::string RealProgram::path(const std::string& name) const { return folder + "
 std::string RealProgram::read(const std::string& name) const {
     std::ifstream file(path(name), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
-}
-
-void RealProgram::write(const std::string& name, const std::string& bytes) const {
-    fs::create_directories(fs::path(path(name)).parent_path());
-    std::ofstream(path(name), std::ios::binary) << bytes;
 }
 
 void RealProgram::set(const std::string& section, const std::string& key, const std::string& value) {

@@ -6,7 +6,6 @@
 #include <QImage>
 #include <QString>
 #include <QStringList>
-#include <QStyle>
 #include <QTemporaryDir>
 #include <QTest>
 #include <deque>
@@ -14,22 +13,20 @@
 #include <string>
 #include <vector>
 
-#include "desktop/Drives.h"
 #include "desktop/FormWindow.h"
 #include "desktop/QtHost.h"
-#include "desktop/QtPlatform.h"
+#include "desktop/system/Drives.h"
+#include "desktop/system/QtPlatform.h"
 #include "services/Programma.h"
 
 namespace forms {
 class CommandButton;
-class FlexGrid;
 class ListBox;
 class TextBox;
-class VScrollBar;
 }  // namespace forms
 
 // The real platform but for what a test has to say itself: the answers to boxes, the connection and the drives.
-class TestPlatform final : public desktop::QtPlatform {
+class TestPlatform final : public desktop::system::QtPlatform {
 public:
     using QtPlatform::QtPlatform;
 
@@ -38,7 +35,7 @@ public:
     std::vector<std::string> drives() override {
         return stick.empty() ? std::vector<std::string>{} : std::vector{stick};
     }
-    int drive_type(const std::string&) override { return static_cast<int>(desktop::DriveType::Removable); }
+    int drive_type(const std::string&) override { return static_cast<int>(desktop::system::DriveType::Removable); }
 
     bool real_boxes = false;
     bool online = false;
@@ -76,8 +73,6 @@ protected:
     void click(const forms::Control& control);
     void click_line(const forms::ListBox& list, int line);
     void click_line(const forms::ListBox& list, const std::string& text);
-    void click_cell(const forms::FlexGrid& grid, int row, int col);
-    void click_arrow(const forms::VScrollBar& bar, QStyle::SubControl arrow);
     void key(Qt::Key key, Qt::KeyboardModifiers held = {});
     // Alt and the letter that is marked in the caption.
     void accelerator(const forms::CommandButton& button);
@@ -86,7 +81,6 @@ protected:
     void compose(const QString& text);
 
     std::vector<std::string> lines(const forms::ListBox& list);  // as the widget shows them
-    std::vector<int> highlighted(const forms::ListBox& list);
     QStringList drawn_lines(const forms::TextBox& box);
     QString shown(const forms::TextBox& box);
     QImage picture(const forms::Control& control);
@@ -95,7 +89,6 @@ protected:
 
     std::string path(const std::string& name) const;
     std::string read(const std::string& name) const;
-    void write(const std::string& name, const std::string& bytes) const;
     void set(const std::string& section, const std::string& key, const std::string& value);
 
     QTemporaryDir temporary;

@@ -8,7 +8,7 @@
 
 #include "desktop/FormWindow.h"
 #include "desktop/QtHost.h"
-#include "desktop/View.h"
+#include "desktop/views/View.h"
 #include "forms/Form.h"
 #include "forms/Windows.h"
 
@@ -39,7 +39,7 @@ protected:
 
     QWidget* widget(const forms::Control& control) const {
         const desktop::FormWindow* window = host.window(&control.form());
-        const desktop::View* view = window ? window->view(control) : nullptr;
+        const desktop::views::View* view = window ? window->view(control) : nullptr;
         return view ? &view->widget() : nullptr;
     }
     template <class Widget>

@@ -1,7 +1,8 @@
 // Runs every scenario file: lines that stand at the margin are commands of the script host, indented lines what the
-// command before them must answer. A command without such lines may answer anything but an error.
-// `@samples` puts the sample deals into the program folder, `@companion` an empty companion, `@write PATH|TEXT` a
-// file, `@gone PATH`, `@there PATH` and `@holds PATH|TEXT` ask about one. $P stands for the program folder.
+// command before them must answer. A command without such lines may answer anything but an error or a refusal.
+// `@is NAME = VALUE` asks for a property, or a shared variable where the name has no dot. `@samples` puts the sample
+// deals into the program folder, `@companion` an empty companion, `@write PATH|TEXT` a file, `@gone PATH`,
+// `@there PATH` and `@holds PATH|TEXT` ask about one. $P stands for the program folder.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -49,7 +50,12 @@ public:
         for (const Step& step : read_steps(file_)) {
             SCOPED_TRACE(file_.filename().string() + ":" + std::to_string(step.line));
             const std::string command = replaced(step.command, "$P", folder);
-            if (command.starts_with('@')) {
+            if (command.starts_with("@is ")) {
+                const std::size_t equals = command.find(" = ");
+                const std::string name = command.substr(4, equals - 4);
+                const bool shared = name.find('.') == std::string::npos;
+                EXPECT_EQ(shared ? program_.shared(name) : program_.get(name), command.substr(equals + 3)) << name;
+            } else if (command.starts_with('@')) {
                 directive(command);
             } else {
                 check(step, command, folder);
@@ -83,7 +89,7 @@ private:
     void check(const Step& step, const std::string& command, const std::string& folder) {
         const std::string answer = replaced(program_.interpreter.run(command), folder, "$P");
         if (step.expected.empty()) {
-            EXPECT_FALSE(answer.starts_with("error")) << command << ": " << answer;
+            EXPECT_FALSE(answer.starts_with("error") || answer.starts_with("refused")) << command << ": " << answer;
             return;
         }
         std::string expected;

@@ -1,8 +1,0 @@
-#pragma once
-
-namespace desktop {
-
-// Whether Caps Lock is on; false where the window system does not tell. Needs a QGuiApplication.
-bool caps_lock_is_on();
-
-}  // namespace desktop

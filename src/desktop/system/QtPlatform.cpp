@@ -1,0 +1,148 @@
+#include "desktop/system/QtPlatform.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QCryptographicHash>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QUrl>
+
+#include "base/Fout.h"
+#include "desktop/FormWindow.h"
+#include "desktop/QtHost.h"
+#include "desktop/Text.h"
+#include "desktop/Words.h"
+#include "desktop/system/Drives.h"
+#include "desktop/system/KeySender.h"
+#include "platform/Paths.h"
+#include "platform/SpecialFolders.h"
+
+namespace desktop::system {
+
+namespace {
+
+// File names on disk may hold what Windows-1252 cannot; the look-up gives their real bytes back.
+QString real_path(const std::string& path) {
+    try {
+        return QString::fromStdString(find_case_blind(path).string());
+    } catch (const Fout&) {  // What can't be looked up can't be opened either, and that is all.
+        return to_qt(path);
+    }
+}
+
+void start_program(const QString& program, const std::string& parameters, const std::string& folder) {
+    QFile file(program);
+    file.setPermissions(file.permissions() | QFileDevice::ExeUser | QFileDevice::ExeOwner);
+    QStringList arguments;
+    if (!parameters.empty()) {
+        QString argument = to_qt(parameters);
+        if (argument.size() > 1 && argument.startsWith('"') && argument.endsWith('"')) {
+            argument = argument.mid(1, argument.size() - 2);
+        }
+        arguments << argument;
+    }
+    const QString work = real_path(folder);
+    QProcess::startDetached(program, arguments, QFileInfo(work).isDir() ? work : QString());
+}
+
+bool is_program(const QFileInfo& file) {
+    return file.isExecutable() || file.suffix().isEmpty() || file.suffix().compare("exe", Qt::CaseInsensitive) == 0;
+}
+
+}  // namespace
+
+QtPlatform::QtPlatform(QtHost& host, const std::string& program_folder)
+    : host_(host),
+      program_folder_(program_folder.empty() ? path_text(QCoreApplication::applicationDirPath().toStdString())
+                                             : program_folder) {}
+
+std::string QtPlatform::special_folder(int number) const { return special_folder_of(program_folder_, number); }
+
+bool QtPlatform::another_instance_runs() {
+    if (lock_ && lock_->isLocked()) return false;
+    const QByteArray folder = QByteArray::fromStdString(program_folder_);
+    const QString name = QCryptographicHash::hash(folder, QCryptographicHash::Sha1).toHex().left(16);
+    lock_ = std::make_unique<QLockFile>(QDir::temp().filePath("zandolin-" + name + ".lock"));
+    lock_->setStaleLockTime(0);
+    return !lock_->tryLock(0) && lock_->error() == QLockFile::LockFailedError;
+}
+
+Answer QtPlatform::message_box(int style, const std::string& title, const std::string& text) {
+    host_.flush();
+    const bool asks = style == box_style::kQuestion || style == box_style::kInformationYesNo;
+    QMessageBox box(style == box_style::kQuestion ? QMessageBox::Question : QMessageBox::Information, to_qt(title),
+                    to_qt(text), QMessageBox::NoButton, host_.front());
+    box.setTextFormat(Qt::PlainText);
+    const QAbstractButton* yes = nullptr;
+    if (asks) {
+        yes = box.addButton(words::kYes, QMessageBox::YesRole);
+        box.setEscapeButton(box.addButton(words::kNo, QMessageBox::NoRole));
+    } else {
+        box.addButton(words::kOk, QMessageBox::AcceptRole);
+    }
+    box.exec();
+    if (!asks) return Answer::Ok;
+    return box.clickedButton() == yes ? Answer::Yes : Answer::No;
+}
+
+void QtPlatform::set_clipboard(const std::string& text) {
+    if (text.empty()) {
+        QGuiApplication::clipboard()->clear();
+    } else {
+        QGuiApplication::clipboard()->setText(to_qt(text));
+    }
+}
+
+void QtPlatform::open(const std::string& file, const std::string& parameters, const std::string& folder) {
+    if (file.find("://") != std::string::npos) {
+        QDesktopServices::openUrl(QUrl(to_qt(file)));
+        return;
+    }
+    const QFileInfo info(real_path(file));
+    if (!info.isFile()) return;
+    if (is_program(info)) {
+        start_program(info.absoluteFilePath(), parameters, folder);
+    } else {
+        QDesktopServices::openUrl(QUrl::fromLocalFile(info.absoluteFilePath()));
+    }
+}
+
+// The opener ends with a failure where the desktop has no program for such a file; Qt would not wait for that.
+void QtPlatform::show_help(const std::string& file) {
+    const QString path = QFileInfo(real_path(file)).absoluteFilePath();
+    auto* opener = new QProcess(qApp);
+    const auto failed = [this, opener, path] {
+        opener->deleteLater();
+        tell_no_help(path);
+    };
+    QObject::connect(opener, &QProcess::errorOccurred, opener, [failed](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart) failed();
+    });
+    QObject::connect(opener, &QProcess::finished, opener, [failed, opener](int code) {
+        if (code == EXIT_SUCCESS) return opener->deleteLater();
+        failed();
+    });
+    opener->start(QStringLiteral("xdg-open"), {path});
+}
+
+void QtPlatform::tell_no_help(const QString& file) {
+    message_box(box_style::kInformation, from_qt(words::kProgram), from_qt(QString(words::kNoHelpViewer).arg(file)));
+}
+
+std::vector<std::string> QtPlatform::drives() { return mounted_volumes(); }
+int QtPlatform::drive_type(const std::string& root) { return static_cast<int>(type_of_volume(root)); }
+std::string QtPlatform::volume_label(const std::string& root) { return label_of_volume(root); }
+
+void QtPlatform::send_keys(const std::vector<KeyRecord>& records) {
+    host_.flush();
+    FormWindow* window = host_.front();
+    QWidget* receiver = window ? window->focusWidget() : QApplication::focusWidget();
+    if (!receiver) return;
+    host_.act_within_event([&] { desktop::system::send_keys(*receiver, records); });
+}
+
+}  // namespace desktop::system

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QAbstractTextDocumentLayout>
+#include <QFont>
+#include <QTextFormat>
+#include <map>
+#include <vector>
+
+#include "forms/Label.h"
+
+namespace desktop::views {
+
+// Lays out the text of a box in exactly the lines in which the core breaks it, whatever font the machine has: each
+// character takes the room that the core counts for it.
+class BoxLayout final : public QAbstractTextDocumentLayout {
+public:
+    struct Measures {
+        double box_width = 0;  // twips, as the core knows it
+        double points = 0;
+        double zoom = 1;
+        double left = 0;  // logical pixels left free before the text
+        QFont font;
+        forms::Alignment alignment = forms::Alignment::Left;
+
+        friend bool operator==(const Measures&, const Measures&) = default;
+    };
+
+    explicit BoxLayout(QTextDocument* document) : QAbstractTextDocumentLayout(document) {}
+
+    // Lays out anew if the measures are others than before.
+    void set_measures(const Measures& measures);
+    double line_height() const;
+
+    void draw(QPainter* painter, const PaintContext& context) override;
+    int hitTest(const QPointF& point, Qt::HitTestAccuracy accuracy) const override;
+    int pageCount() const override { return 1; }
+    QSizeF documentSize() const override { return size_; }
+    QRectF frameBoundingRect(QTextFrame*) const override { return {QPointF(), size_}; }
+    QRectF blockBoundingRect(const QTextBlock& block) const override;
+
+protected:
+    void documentChanged(int from, int removed, int added) override;
+
+private:
+    // A block as it was laid out last.
+    struct Laid {
+        QString text;
+        double height = 0;
+    };
+    double text_width() const;
+    // The height of the block.
+    double lay_out(const QTextBlock& block) const;
+    const QTextCharFormat& format_of(char character) const;
+
+    Measures measures_;
+    mutable std::map<char, QTextCharFormat> formats_;  // of the characters that were asked for
+    std::vector<Laid> laid_;
+    QSizeF size_;
+};
+
+}  // namespace desktop::views

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "desktop/views/View.h"
+#include "forms/FlexGrid.h"
+
+namespace desktop::views {
+
+class GridWidget;
+
+class GridView final : public View {
+public:
+    GridView(FormWindow& window, forms::FlexGrid& grid, QWidget* parent);
+
+private:
+    void show_state() override;
+
+    forms::FlexGrid& grid_;
+    GridWidget& widget_;
+};
+
+}  // namespace desktop::views

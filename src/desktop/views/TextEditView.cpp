@@ -1,0 +1,85 @@
+#include "desktop/views/TextEditView.h"
+
+#include <QMimeData>
+#include <QPainter>
+#include <QScrollBar>
+#include <QTextDocument>
+
+#include "desktop/views/BoxLayout.h"
+#include "forms/TextMeasure.h"
+
+namespace desktop::views {
+
+namespace {
+
+class EditWidget final : public QTextEdit {
+public:
+    explicit EditWidget(QWidget* parent) : QTextEdit(parent) {
+        setAcceptRichText(false);
+        setTabChangesFocus(true);
+        setContextMenuPolicy(Qt::NoContextMenu);
+        setAcceptDrops(false);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    }
+
+private:
+    void paintEvent(QPaintEvent* event) override {
+        QTextEdit::paintEvent(event);
+        const QScrollBar& bar = *verticalScrollBar();
+        if (frameShape() == QFrame::NoFrame || bar.maximum() <= 0) return;
+        const int height = viewport()->height();
+        const int whole = bar.maximum() + bar.pageStep();
+        QPainter painter(viewport());
+        painter.fillRect(viewport()->width() - 3, height * bar.value() / whole, 2, height * bar.pageStep() / whole,
+                         Qt::gray);
+    }
+    // The widget's own reading of a clipboard asks for the first of its formats, even where it has none.
+    bool canInsertFromMimeData(const QMimeData* source) const override { return source && source->hasText(); }
+    void insertFromMimeData(const QMimeData* source) override {
+        if (!canInsertFromMimeData(source)) return;
+        insertPlainText(source->text());
+        ensureCursorVisible();
+    }
+    void scrollContentsBy(int, int) override { viewport()->update(); }
+};
+
+}  // namespace
+
+TextEditView::TextEditView(FormWindow& window, forms::TextBox& box, QWidget* parent)
+    : TextBoxView(window, box, new EditWidget(parent)),
+      widget_(static_cast<QTextEdit&>(widget())),
+      layout_(new BoxLayout(widget_.document())) {
+    widget_.document()->setDocumentLayout(layout_);
+    connect(&widget_, &QTextEdit::textChanged, this, [this] { text_changed(); });
+    connect(&widget_, &QTextEdit::selectionChanged, this, [this] { selection_changed(); });
+    connect(&widget_, &QTextEdit::cursorPositionChanged, this, [this] { selection_changed(); });
+}
+
+void TextEditView::show_state() {
+    const bool framed = box().BorderStyle() != 0;
+    widget_.setFrameShape(framed ? QFrame::StyledPanel : QFrame::NoFrame);
+    BoxLayout::Measures measures;
+    measures.box_width = box().Width;
+    measures.points = box().FontSize;
+    measures.zoom = scale().zoom();
+    measures.left = forms::kBoxMarginInPixels / 2 * measures.zoom - widget_.frameWidth();
+    measures.font = font();
+    measures.alignment = box().Alignment();
+    layout_->set_measures(measures);
+    TextBoxView::show_state();
+}
+
+TextRange TextEditView::shown_selection() const {
+    const QTextCursor cursor = widget_.textCursor();
+    return {cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart()};
+}
+
+void TextEditView::select(const TextRange& range) {
+    QTextCursor cursor = widget_.textCursor();
+    cursor.setPosition(range.start);
+    cursor.setPosition(range.start + range.length, QTextCursor::KeepAnchor);
+    widget_.setTextCursor(cursor);
+}
+
+}  // namespace desktop::views

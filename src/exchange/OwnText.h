@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace exchange {
+
+// A text of a board as the program's own files can hold it: Windows-1252, lines end in CR LF, suit symbols are the
+// letters S, H, R and K. "|" and "~", which have a meaning in those files, are written out, and so are signs that the
+// code page lacks and that have a spelling in it; any other becomes "?".
+struct OwnText {
+    std::string bytes{};
+    bool lossless = true;  // false where a sign became "?"
+};
+OwnText own_text(std::string_view utf8);
+
+}  // namespace exchange

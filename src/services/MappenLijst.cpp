@@ -1,0 +1,9 @@
+#include "services/MappenLijst.h"
+
+void vul_met_mappen(forms::ListBox& lijst, forms::DirListBox& mappen, const std::string& map, int volgorde) {
+    mappen.Path = map;
+    lijst.Clear();
+    const int aantal = mappen.ListCount();
+    for (int i = 0; i < aantal; ++i)
+        lijst.AddItem(mappen.List(volgorde == 1 ? aantal - 1 - i : i));
+}
