@@ -30,7 +30,8 @@ constexpr unsigned char lower_of(unsigned char character) {
 
 constexpr std::array<unsigned char, 256> kLower = [] {
     std::array<unsigned char, 256> table{};
-    for (std::size_t code = 0; code < table.size(); ++code) table[code] = lower_of(static_cast<unsigned char>(code));
+    for (std::size_t code = 0; code < table.size(); ++code)
+        table[code] = lower_of(static_cast<unsigned char>(code));
     return table;
 }();
 
@@ -113,7 +114,8 @@ std::string upper_case(std::string_view text) { return converted(text, upper); }
 int compare_ignoring_case(std::string_view left, std::string_view right) {
     const std::size_t common = std::min(left.size(), right.size());
     for (std::size_t at = 0; at < common; ++at) {
-        const int difference = lower(static_cast<unsigned char>(left[at])) - lower(static_cast<unsigned char>(right[at]));
+        const int difference =
+            lower(static_cast<unsigned char>(left[at])) - lower(static_cast<unsigned char>(right[at]));
         if (difference != 0) return difference;
     }
     return left.size() == right.size() ? 0 : left.size() < right.size() ? -1 : 1;

@@ -19,13 +19,14 @@ public:
     // Elements at given places.
     ControlArray(Container& container, std::string name, std::initializer_list<std::pair<int, Rect>> places)
         : container_(container), name_(std::move(name)) {
-        for (const auto& [index, place] : places) add(index, place);
+        for (const auto& [index, place] : places)
+            add(index, place);
     }
     // Elements first to last, whose place a function tells from the number.
-    ControlArray(Container& container, std::string name, int first, int last,
-                 const std::function<Rect(int)>& place_of)
+    ControlArray(Container& container, std::string name, int first, int last, const std::function<Rect(int)>& place_of)
         : container_(container), name_(std::move(name)) {
-        for (int index = first; index <= last; ++index) add(index, place_of(index));
+        for (int index = first; index <= last; ++index)
+            add(index, place_of(index));
     }
 
     T& operator()(int index) const {
@@ -54,7 +55,8 @@ public:
 
     // Does the same with every element, those that Load makes later too.
     void each(std::function<void(T&)> action) {
-        for (auto& [index, element] : elements_) action(*element);
+        for (auto& [index, element] : elements_)
+            action(*element);
         on_load_ = std::move(action);
     }
 

@@ -10,7 +10,8 @@ namespace forms {
 // Lists the files of a folder, without the hidden ones. It is never shown.
 class FileListBox final : public Control {
 public:
-    FileListBox(Container& container, std::string name, const Rect& place = {}) : Control(container, std::move(name), place) {
+    FileListBox(Container& container, std::string name, const Rect& place = {})
+        : Control(container, std::move(name), place) {
         Visible = false;
     }
     const char* kind() const override { return "FileListBox"; }

@@ -40,7 +40,8 @@ Control& Form::control(const std::string& name, int index) const {
 
 Form::Changes Form::take_changes() {
     Changes changes = std::exchange(changes_, {});
-    for (Control* control : changes.controls) control->mark_drawn();
+    for (Control* control : changes.controls)
+        control->mark_drawn();
     return changes;
 }
 

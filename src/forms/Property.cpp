@@ -29,7 +29,8 @@ std::string property_text(const std::string& value) { return value; }
 
 std::string property_text(double value) {
     std::array<char, 32> digits{};
-    const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed);
+    const auto [end, error] =
+        std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed);
     return error == std::errc() ? std::string(digits.data(), end) : std::to_string(value);
 }
 

@@ -100,7 +100,8 @@ int character_width(char character, const Font& font) {
 
 int text_width_in_pixels(std::string_view text, const Font& font) {
     int width = 0;
-    for (const char character : text) width += character_width(character, font);
+    for (const char character : text)
+        width += character_width(character, font);
     return width;
 }
 

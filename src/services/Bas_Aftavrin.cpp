@@ -18,7 +18,8 @@ std::string LeesResString(Programma& programma, int nummer) {
     // The report names that other routine, and must.
     Foutpad(programma, "Bas_Aftavrin - General - DisplyDriveTypes", [&] {
         std::string cijfers = std::to_string(nummer);
-        while (cijfers.size() < 3) cijfers.insert(0, "0");
+        while (cijfers.size() < 3)
+            cijfers.insert(0, "0");
         if (cijfers.size() != 5) cijfers.insert(0, std::to_string(programma.gedeeld.taalPrefix));
         tekst = resources::message_text(numeric_value(cijfers));
     });

@@ -7,8 +7,8 @@
 // The shared variables of the program. They live for the run; routines read and write them without handing them over,
 // and the order of the calls keeps them right.
 struct Gedeeld {
-    int taalPrefix = 0;    // leading digits of the message numbers
-    int kaartRugId = 0;    // picture number of the card back
+    int taalPrefix = 0;  // leading digits of the message numbers
+    int kaartRugId = 0;  // picture number of the card back
     bool internetOk = false;
 
     std::string spelMap;       // full path of the chosen deal's folder

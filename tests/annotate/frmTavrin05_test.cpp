@@ -31,7 +31,9 @@ protected:
     void store(const std::string& text) {
         program("text frmTavrin05.txtInformatie " + script::escaped(text) + "\nclick frmTavrin05.cmdGebruiken");
     }
-    std::string record(int card) { return program.read(std::string(kStem) + " informatie.txt").substr((card - 1) * kRecord, kRecord); }
+    std::string record(int card) {
+        return program.read(std::string(kStem) + " informatie.txt").substr((card - 1) * kRecord, kRecord);
+    }
     // A record as the file holds it.
     static std::string padded(std::string text) {
         text.resize(kRecord, ' ');
@@ -55,8 +57,10 @@ TEST_F(Editor, ShowsTheFirstTrickAndWhichCardsHaveAText) {
     EXPECT_EQ(get("lblKaartNummer(3).ForeColor"), "0xFF0000");
     EXPECT_EQ(get("lblKaartNummer(2).Caption"), "Nummer: 4");
     EXPECT_EQ(get("picKaart(2).Picture"), "2239") << "the pictures stay at their seats";
-    for (const int card : {2, 9, 52}) EXPECT_EQ(marker(card), "ja") << card;
-    for (const int card : {1, 7, 51}) EXPECT_EQ(marker(card), "nee") << card;
+    for (const int card : {2, 9, 52})
+        EXPECT_EQ(marker(card), "ja") << card;
+    for (const int card : {1, 7, 51})
+        EXPECT_EQ(marker(card), "nee") << card;
     EXPECT_EQ(get("fraKaartMetTekst.Enabled"), "true");
 }
 
@@ -119,13 +123,15 @@ TEST_F(Editor, MissingFilesAreToldInWordsAndLeaveNoDealChosen) {
     const std::string folder = path_text(program.path("aftavrin/QVT_Spel 012"));
     EXPECT_EQ(program.interpreter.platform.boxes.back().text,
               "Kan het bestand (QVT_Spel 012 contract.txt) niet vinden!\n\n(QVT_Spel 012 contract.txt) moet in "
-              "onderstaande map staan:\n" + folder);
+              "onderstaande map staan:\n" +
+                  folder);
     EXPECT_EQ(get("fraSlag.Enabled"), "false");
     EXPECT_EQ(get("cmdToonSpel.Enabled"), "false");
     program.write(std::string(kStem) + " Contract.txt", "Zuid 3 SA\r\n");
     std::filesystem::remove(program.path(std::string(kStem) + " aftavrin.txt"));
     program("select frmTavrin05.lstSpellen 0");
-    EXPECT_NE(program.interpreter.platform.boxes.back().text.find("\n\nQVT_Spel 012 aftavrin.txt moet"), std::string::npos);
+    EXPECT_NE(program.interpreter.platform.boxes.back().text.find("\n\nQVT_Spel 012 aftavrin.txt moet"),
+              std::string::npos);
 }
 
 TEST(EditorAndOverview, ReportWhatIsDamagedWhereItIsUsed) {
@@ -134,10 +140,10 @@ TEST(EditorAndOverview, ReportWhatIsDamagedWhereItIsUsed) {
         std::string record;  // the first
         const char* used;
         const char* place;
-    } rows[] = {{"QVT_Spel 012", std::string(kRecord, ' '), "click frmTavrin05.picYesNo(0)",
-                 "frmTavrin05 - picYesNo - Click"},
-                {"QVT_Spel 012", "xx", "", "frmTavrin05 - General - ZetJaNeePic"},
-                {"17", "1|", "click frmTavrin05.cmdToonSpel", "frmTavrin06 - Form - Load"}};
+    } rows[] = {
+        {"QVT_Spel 012", std::string(kRecord, ' '), "click frmTavrin05.picYesNo(0)", "frmTavrin05 - picYesNo - Click"},
+        {"QVT_Spel 012", "xx", "", "frmTavrin05 - General - ZetJaNeePic"},
+        {"17", "1|", "click frmTavrin05.cmdToonSpel", "frmTavrin06 - Form - Load"}};
     for (const auto& row : rows) {
         Program program;
         Package package = Package::west_wins_all();
@@ -217,7 +223,9 @@ TEST_F(Editor, AnyTextOnAnyCardComesBack) {
         choose(card);
         EXPECT_EQ(script::unescaped(from_utf8(get("txtInformatie.Text"))), texts[card]);
     }
-    program("key frmTavrin05 escape\nselect frmTavrin01.lstSpellen 0\nclick frmTavrin01.cmdTavrin\nclick frmTavrin02.cmdStart");
+    program(
+        "key frmTavrin05 escape\nselect frmTavrin01.lstSpellen 0\nclick frmTavrin01.cmdTavrin\nclick "
+        "frmTavrin02.cmdStart");
     for (int card = 1; card <= 51; ++card) {
         EXPECT_EQ(program.get("frmTavrin02.cmdVerder.Visible"), texts.contains(card) ? "true" : "false") << card;
         program(texts.contains(card) ? "click frmTavrin02.cmdVerder" : "tick frmTavrin02.timSpeelKaart");
@@ -242,7 +250,8 @@ TEST_F(Overview, ShowsTheDealInSmallFacesAndComesBackToTheEditor) {
     EXPECT_EQ(get("picKaartZuid(1).Top"), "4265");
     EXPECT_EQ(get("picKaartWest(1).Left"), "100");
     EXPECT_EQ(get("picKaartWest(1).Top"), "1720");
-    EXPECT_EQ(get("picKaartOost(1).Top"), std::to_string(1720 + 3 * 300)) << "diamonds come last, empty suits keep their row";
+    EXPECT_EQ(get("picKaartOost(1).Top"), std::to_string(1720 + 3 * 300))
+        << "diamonds come last, empty suits keep their row";
     EXPECT_EQ(get("picKaartNoord(0).Visible"), "false");
     program("key frmTavrin06 escape");
     EXPECT_EQ(program("screens"), "frmTavrin05 visible\nfrmTavrin01 hidden\n.");

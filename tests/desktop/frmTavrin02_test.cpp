@@ -1,7 +1,7 @@
+#include "table/frmTavrin02.h"
 #include "desktop/RealProgram.h"
 #include "desktop/Text.h"
 #include "library/frmTavrin01.h"
-#include "table/frmTavrin02.h"
 
 namespace {
 

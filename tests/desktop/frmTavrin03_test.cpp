@@ -1,7 +1,7 @@
+#include "prepare/frmTavrin03.h"
 #include "desktop/Look.h"
 #include "desktop/RealProgram.h"
 #include "library/frmTavrin01.h"
-#include "prepare/frmTavrin03.h"
 
 namespace {
 

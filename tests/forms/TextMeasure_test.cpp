@@ -45,18 +45,18 @@ class Wrap : public testing::TestWithParam<WrapCase> {};
 
 TEST_P(Wrap, BreaksAsTheBoxDoes) { EXPECT_EQ(wrapped(GetParam().text), GetParam().lines); }
 
-INSTANTIATE_TEST_SUITE_P(
-    Lines, Wrap,
-    testing::Values(WrapCase{"empty", "", {""}}, WrapCase{"short_text", "een twee", {"een twee"}},
-                    WrapCase{"blanks_at_the_end_hang_over", k21m + "      x", {k21m + "      ", "x"}},
-                    WrapCase{"after_a_blank", k21m + " mm", {k21m + " ", "mm"}},
-                    WrapCase{"wide_word_is_cut", k22m, {k21m, "m"}},
-                    WrapCase{"wide_word_begins_a_line", "a " + k22m + " b", {"a ", k21m, "m b"}},
-                    WrapCase{"hard_break", "a\r\nb", {"a\r\n", "b"}},
-                    WrapCase{"hard_break_at_the_end", "a\r\n", {"a\r\n", ""}},
-                    WrapCase{"empty_line", "a\r\n\r\nb", {"a\r\n", "\r\n", "b"}},
-                    WrapCase{"blank_line_first", "  a", {"  a"}}),
-    [](const auto& info) { return info.param.name; });
+INSTANTIATE_TEST_SUITE_P(Lines, Wrap,
+                         testing::Values(WrapCase{"empty", "", {""}}, WrapCase{"short_text", "een twee", {"een twee"}},
+                                         WrapCase{
+                                             "blanks_at_the_end_hang_over", k21m + "      x", {k21m + "      ", "x"}},
+                                         WrapCase{"after_a_blank", k21m + " mm", {k21m + " ", "mm"}},
+                                         WrapCase{"wide_word_is_cut", k22m, {k21m, "m"}},
+                                         WrapCase{"wide_word_begins_a_line", "a " + k22m + " b", {"a ", k21m, "m b"}},
+                                         WrapCase{"hard_break", "a\r\nb", {"a\r\n", "b"}},
+                                         WrapCase{"hard_break_at_the_end", "a\r\n", {"a\r\n", ""}},
+                                         WrapCase{"empty_line", "a\r\n\r\nb", {"a\r\n", "\r\n", "b"}},
+                                         WrapCase{"blank_line_first", "  a", {"  a"}}),
+                         [](const auto& info) { return info.param.name; });
 
 TEST(Wrap, LosesNothingAndFitsForAnyText) {
     unsigned seed = 7;
@@ -65,7 +65,9 @@ TEST(Wrap, LosesNothingAndFitsForAnyText) {
         std::string text;
         for (unsigned length = next() % 400; text.size() < length;) {
             const unsigned kind = next() / 65536 % 9;
-            text += kind == 0 ? " " : kind == 1 && round % 3 == 0 ? "\r\n" : std::string(1, static_cast<char>(33 + next() / 65536 % 220));
+            text += kind == 0                     ? " "
+                    : kind == 1 && round % 3 == 0 ? "\r\n"
+                                                  : std::string(1, static_cast<char>(33 + next() / 65536 % 220));
         }
         std::string all;
         for (const std::string& line : wrapped(text)) {

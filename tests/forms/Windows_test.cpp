@@ -169,7 +169,8 @@ TEST(ListBox, ClickIsRaisedByAChangeAndAlwaysByTheUser) {
     ListBox& list = test.form("A").list;
     int clicks = 0;
     list.Click = [&] { ++clicks; };
-    for (const char* line : {"een", "Twee", "tweede"}) list.AddItem(line);
+    for (const char* line : {"een", "Twee", "tweede"})
+        list.AddItem(line);
     const auto expect = [&](int expected) { EXPECT_EQ(std::exchange(clicks, 0), expected); };
     list.ListIndex = 1;
     expect(1);
@@ -191,7 +192,8 @@ TEST(ListBox, SortedListKeepsTextOrder) {
     TestWindows test;
     test.show({"A"});
     ListBox sorted(test.form("A"), "sorted", ListBox::Order::Sorted);
-    for (const char* line : {"2240", "2201", "10", "2214"}) sorted.AddItem(line);
+    for (const char* line : {"2240", "2201", "10", "2214"})
+        sorted.AddItem(line);
     EXPECT_EQ(sorted.List(0), "10");
     sorted.AddItem("2202");
     EXPECT_EQ(sorted.List(2), "2202");
@@ -203,7 +205,8 @@ TEST(ListBox, MultipleSelectionTogglesLineByLine) {
     test.show({"A"});
     ListBox& list = test.form("A").list;
     list.MultiSelect = true;
-    for (const char* line : {"a", "b", "c"}) list.AddItem(line);
+    for (const char* line : {"a", "b", "c"})
+        list.AddItem(line);
     int clicks = 0;
     list.Click = [&] { ++clicks; };
     user::select(list, 0);

@@ -240,7 +240,8 @@ TEST(MainScreen, UnloadsAScreenThatTheUserLeftOpenBehindIt) {
 TEST(MainScreen, ReportsALineThatVanishedUnderTheClick) {
     Program program;
     program.install_companion();
-    for (const char* deal : {"Spel 1", "Spel 2"}) program.write("aftavrin/" + std::string(deal) + "/x.txt", "");
+    for (const char* deal : {"Spel 1", "Spel 2"})
+        program.write("aftavrin/" + std::string(deal) + "/x.txt", "");
     program("start\nclick frmTavrin01.cmdNieuwSpel");
     std::filesystem::remove_all(program.path("aftavrin/Spel 2"));
     // The click that brings the window in front reads the list anew before it reaches the line.

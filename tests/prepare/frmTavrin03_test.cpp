@@ -650,8 +650,7 @@ TEST_F(Recording, DamagedPackagesShowWhatTheyHoldOrAreReported) {
     Package package = Package::west_wins_all();
     package.rows[1] = "x341|0|2239|2252|2213";
     write_package(program, package);
-    program.write(stem + " aftavrin.txt",
-                  package.rows[0] + "\r\n\r\n" + package.rows[1] + "\r\n");
+    program.write(stem + " aftavrin.txt", package.rows[0] + "\r\n\r\n" + package.rows[1] + "\r\n");
     program("start\nclick frmTavrin01.cmdNieuwSpel\nselect frmTavrin03.lstAfTavrin 0");
     EXPECT_EQ(program.shared("foutPlaats"), "frmTavrin03 - General - LeesSpelIn") << "it has no hands";
     EXPECT_EQ(cell(2, 1), "S -2199");

@@ -18,7 +18,8 @@ protected:
         program("click frmTavrin02.cmdStart");
     }
     void ticks(int count) {
-        for (int i = 0; i < count; ++i) program("tick frmTavrin02.timSpeelKaart");
+        for (int i = 0; i < count; ++i)
+            program("tick frmTavrin02.timSpeelKaart");
     }
     std::string get(const std::string& name) { return program.get("frmTavrin02." + name); }
     int card() { return std::stoi(program.shared("kaartTeller")); }
@@ -31,7 +32,8 @@ Package led_by(int seat) {
     static const char* const orders[] = {"1234", "2341", "3412", "4123"};
     static const char* const leads[] = {"Noord - 1Aas", "Oost - 2Aas", "Zuid - 3Aas", "West - 0Aas"};
     Package package = Package::west_wins_all();
-    for (std::string& row : package.rows) row.replace(0, 4, orders[seat - 1]);
+    for (std::string& row : package.rows)
+        row.replace(0, 4, orders[seat - 1]);
     package.lead = leads[seat - 1];
     return package;
 }
@@ -96,7 +98,8 @@ TEST_F(Table, NoCardLiesOnAnotherAndHandsStandAtTheirSeats) {
             if (card() == 15) expect_places();
             if (card() % 4 != 1 || card() == 1) continue;
             int empty = 0;
-            for (const std::string& name : played) empty += get(name + ".Picture").empty();
+            for (const std::string& name : played)
+                empty += get(name + ".Picture").empty();
             EXPECT_EQ(empty, 3) << "the trick before is gone";
         }
         expect_places();
@@ -107,8 +110,8 @@ TEST_F(Table, NoCardLiesOnAnotherAndHandsStandAtTheirSeats) {
 struct LeadCase {
     int leader;
     const char* dummy;
-    const char* hole;           // the card that the closed hand of the leader loses at once
-    std::vector<int> seats;     // of trick 1, in the order in which they come
+    const char* hole;        // the card that the closed hand of the leader loses at once
+    std::vector<int> seats;  // of trick 1, in the order in which they come
 };
 
 class FirstTrick : public Table, public testing::WithParamInterface<LeadCase> {};
@@ -259,28 +262,30 @@ TEST_P(Damaged, EndsInTheReport) {
     Package package = Package::west_wins_all();
     GetParam().damage(package);
     start(package);
-    for (int i = 0; i < GetParam().ticks; ++i) program.interpreter.run("tick frmTavrin02.timSpeelKaart");
+    for (int i = 0; i < GetParam().ticks; ++i)
+        program.interpreter.run("tick frmTavrin02.timSpeelKaart");
     EXPECT_EQ(program.shared("foutPlaats"), GetParam().place);
     EXPECT_EQ(program.shared("foutNummer"), GetParam().number);
     EXPECT_EQ(program.get("frmTavrin08.Visible"), "true");
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Packages, Damaged,
-    testing::Values(
-        DamagedCase{"too_few_rows", [](Package& p) { p.rows.resize(2); }, 8, "frmTavrin02 - timSPeelKaart - Timer", "9"},
-        DamagedCase{"code_zero", [](Package& p) { p.rows[0] = "4123|0|2239|2252|2213"; }, 1,
-                    "Kaarten - General - PlaatsKaart", "326"},
-        DamagedCase{"no_order", [](Package& p) { p.rows[1].erase(0, 4); }, 4, "Kaarten - General - PlaatsKaart", "5"},
-        DamagedCase{"five_cards", [](Package& p) { p.rows[0] += "|2201"; }, 0, "Kaarten - General - VerdeelDeKaarten",
-                    "340"},
-        DamagedCase{"contract_of_two_words", [](Package& p) { p.contract = "Zuid 4"; }, 0,
-                    "Kaarten - General - OverigeStartPositie", "9"},
-        DamagedCase{"unknown_value_in_lead", [](Package& p) { p.lead = "West - 010"; }, 0,
-                    "Kaarten - General - PlaatdeUitkomst", "326"},
-        DamagedCase{"unknown_seat_in_lead", [](Package& p) { p.lead = "Best - 0Aas"; }, 0,
-                    "Kaarten - General - PlaatdeUitkomst", "9"}),
-    [](const auto& info) { return info.param.name; });
+INSTANTIATE_TEST_SUITE_P(Packages, Damaged,
+                         testing::Values(DamagedCase{"too_few_rows", [](Package& p) { p.rows.resize(2); }, 8,
+                                                     "frmTavrin02 - timSPeelKaart - Timer", "9"},
+                                         DamagedCase{"code_zero",
+                                                     [](Package& p) { p.rows[0] = "4123|0|2239|2252|2213"; }, 1,
+                                                     "Kaarten - General - PlaatsKaart", "326"},
+                                         DamagedCase{"no_order", [](Package& p) { p.rows[1].erase(0, 4); }, 4,
+                                                     "Kaarten - General - PlaatsKaart", "5"},
+                                         DamagedCase{"five_cards", [](Package& p) { p.rows[0] += "|2201"; }, 0,
+                                                     "Kaarten - General - VerdeelDeKaarten", "340"},
+                                         DamagedCase{"contract_of_two_words", [](Package& p) { p.contract = "Zuid 4"; },
+                                                     0, "Kaarten - General - OverigeStartPositie", "9"},
+                                         DamagedCase{"unknown_value_in_lead", [](Package& p) { p.lead = "West - 010"; },
+                                                     0, "Kaarten - General - PlaatdeUitkomst", "326"},
+                                         DamagedCase{"unknown_seat_in_lead", [](Package& p) { p.lead = "Best - 0Aas"; },
+                                                     0, "Kaarten - General - PlaatdeUitkomst", "9"}),
+                         [](const auto& info) { return info.param.name; });
 
 TEST_F(Table, TimerStaysOffAfterATickThatFailed) {
     Package package = Package::west_wins_all();
@@ -296,7 +301,8 @@ TEST_F(Table, HugeAndOddFilesAreReadOrReported) {
     Package package = Package::west_wins_all();
     package.question = std::string(1 << 20, 'x') + " " + std::string(1 << 20, ' ') + std::string("\0y", 2) + "\r\n";
     package.texts = {{2, std::string("a\0b", 3)}};
-    for (int i = 0; i < 100000; ++i) package.rows.push_back(package.rows[0]);
+    for (int i = 0; i < 100000; ++i)
+        package.rows.push_back(package.rows[0]);
     start(package);
     ticks(1);
     EXPECT_EQ(get("cmdVerder.Visible"), "true");
