@@ -73,7 +73,10 @@ void VerdeelDeKaarten(Scherm& scherm, HandLijsten& lijsten) {
 
 void LeesSpellen(Scherm& scherm, forms::ListBox& lstSpellen, forms::DirListBox& mappen, const std::string& map,
                  int volgorde) {
-    scherm.Foutpad("Kaarten - General - LeesSpellen", [&] { vul_met_mappen(lstSpellen, mappen, map, volgorde); });
+    scherm.Foutpad("Kaarten - General - LeesSpellen", [&] {
+        mappen.Path = map;
+        vul_met_mappen(lstSpellen, mappen, volgorde);
+    });
 }
 
 void WelkeKaartIsDit(Scherm& scherm, const std::string& kaartcode) {

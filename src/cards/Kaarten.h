@@ -19,7 +19,7 @@ std::string bestand(const Gedeeld& gedeeld, const std::string& achtervoegsel);
 // Whether a file of a deal is there: one that is longer than zero bytes. Where that cannot be told it is a failure, so
 // that nothing is taken for missing, and then written over, that could only not be reached.
 bool aanwezig(const std::string& pad);
-// First line of a text file; empty where the file has none.
+// First line of a text file; failure 62 where the file is empty.
 std::string eerste_regel(const std::string& pad);
 
 // Zeroes the play counters and empties dummyWind and leiderWind.

@@ -120,7 +120,8 @@ void frmTavrin07::LeesExporteer(const Kant& kant) {
         kant.knop.Enabled = false;
         if (map.empty()) return;
         if (&kant == &importeer) refuse_links(stick(), map);
-        vul_met_mappen(kant.lijst, kant.mappen, map, kant.sorteer.Value);
+        kant.mappen.Path = map;
+        vul_met_mappen(kant.lijst, kant.mappen, kant.sorteer.Value);
     });
 }
 
@@ -194,8 +195,9 @@ void frmTavrin07::kopieer_selectie(const Kant& kant, const Kant& overkant) {
     Copies kopieen;
     std::vector<int> geschreven;
     const auto maak_af = [&] {
+        const std::vector<int> regels = std::exchange(geschreven, {});
         kopieen.finish();
-        for (const int regel : std::exchange(geschreven, {}))
+        for (const int regel : regels)
             kant.lijst.SetSelected(regel, false);
         Refresh();
     };
@@ -206,7 +208,7 @@ void frmTavrin07::kopieer_selectie(const Kant& kant, const Kant& overkant) {
             geschreven.push_back(i);
             if (geschreven.size() == kTegelijk) maak_af();
         }
-    } catch (const Fout&) {
+    } catch (const std::exception&) {
         maak_af();
         kopieen.flush();
         throw;

@@ -117,6 +117,7 @@ int frmTavrin03::leg_kaart(int speler, const std::string& kaart, int index) {
     if (LeesModus) slagrij = msfgTavrin.Rows() - 1;
     const auto kleur = kleur_van_letter(left(kaart, 1));
     if (kleur && speler >= 1 && speler <= 4) labels.rij(speler, *kleur)(index).BackColor = kInSlag;
+    lstKlaar.Clear();
     msfgTavrin.Row = slagrij;
     return slagrij;
 }

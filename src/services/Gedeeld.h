@@ -42,7 +42,7 @@ struct Gedeeld {
     std::string kaartTekst;
 
     // Layout of the table, twips.
-    double kaartStap = 0;
+    double kaartStap = 570;  // from the start: the overview goes by it too
     double rijStap = 0;
     double noordLinks = 0, noordBoven = 0;
     double oostLinks = 0, oostBoven = 0;

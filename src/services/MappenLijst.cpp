@@ -1,7 +1,6 @@
 #include "services/MappenLijst.h"
 
-void vul_met_mappen(forms::ListBox& lijst, forms::DirListBox& mappen, const std::string& map, int volgorde) {
-    mappen.Path = map;
+void vul_met_mappen(forms::ListBox& lijst, const forms::DirListBox& mappen, int volgorde) {
     lijst.Clear();
     const int aantal = mappen.ListCount();
     for (int i = 0; i < aantal; ++i)

@@ -1,13 +1,11 @@
 #pragma once
 
-#include <string>
-
 #include "forms/CheckBox.h"
 #include "forms/DirListBox.h"
 #include "forms/ListBox.h"
 
-// Fills a list with the names of a folder's subfolders, from the first to the last, or the other way with `volgorde` 1.
-void vul_met_mappen(forms::ListBox& lijst, forms::DirListBox& mappen, const std::string& map, int volgorde);
+// Fills a list with the names that the lister read, from the first to the last, or the other way with `volgorde` 1.
+void vul_met_mappen(forms::ListBox& lijst, const forms::DirListBox& mappen, int volgorde);
 
 // A list of packages or deals, each a folder, with its sort box.
 struct MappenLijst {

@@ -51,9 +51,11 @@ void Scherm::sorteer(const char* plaats, forms::CheckBox& keuze, const std::func
 }
 
 void Scherm::toon_mappen(const MappenLijst& lijst, const std::string& map) {
+    if (!map.empty()) {
+        std::string pad = map;
+        Bas_Aftavrin::MaakPad(pad);
+        lijst.mappen.Path = map;
+    }
     lijst.keuze.Caption = LeesResString(lijst.keuze.Value == 1 ? Bericht::SorteerLaagHoog : Bericht::SorteerHoogLaag);
-    if (map.empty()) return;
-    std::string pad = map;
-    Bas_Aftavrin::MaakPad(pad);
-    vul_met_mappen(lijst.lijst, lijst.mappen, map, lijst.keuze.Value);
+    if (!map.empty()) vul_met_mappen(lijst.lijst, lijst.mappen, lijst.keuze.Value);
 }
