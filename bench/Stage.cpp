@@ -46,7 +46,7 @@ void multiply(const fs::path& folder, const std::string& deal, int count, bool w
         fs::create_directory(folder / name);
         if (!with_files) continue;
         for (const auto& file : fs::directory_iterator(folder / deal)) {
-            fs::copy(file.path(), folder / name / replaced(file.path().filename().string(), deal, name));
+            fs::copy(file.path(), folder / name / base::replaced(file.path().filename().string(), deal, name));
         }
     }
 }
@@ -65,9 +65,12 @@ fs::path make_program_folder(const std::string& samples, const FolderContents& c
     return folder;
 }
 
-Stage::Stage(const fs::path& folder) : folder_(folder), platform(host, path_text(folder_)), programma(platform, host) {
+Stage::Stage(const fs::path& folder)
+    : folder_(folder),
+      platform(host, platform::path_text(folder_), services::settings_file(platform::path_text(folder_))),
+      programma(platform, host) {
     host.attach(programma.windows);
-    start(programma);
+    app::start(programma);
     paint();
 }
 

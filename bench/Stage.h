@@ -51,7 +51,7 @@ private:
 public:
     desktop::QtHost host;
     desktop::system::QtPlatform platform;
-    Programma programma;
+    services::Programma programma;
     desktop::CardPreparer preparer{host};
 };
 

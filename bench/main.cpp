@@ -4,15 +4,20 @@
 #include <sys/resource.h>
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QListWidget>
 #include <QProcess>
 #include <QWindow>
 #include <iostream>
 
+#include "Deals.h"
+#include "DealsWindow.h"
 #include "Measure.h"
 #include "Stage.h"
 #include "app/Start.h"
+#include "desktop/FormWindow.h"
 #include "desktop/Style.h"
+#include "desktop/views/View.h"
 #include "forms/ListBox.h"
 #include "forms/TextBox.h"
 #include "forms/Timer.h"
@@ -138,7 +143,23 @@ void measure_lists(Report& report) {
     report.add_median("100,000 packages: the same", many.against_scan, "ratio", 2);
     const double share = median(many.shown) / (100 * median(few.shown));
     report.add_median("a package of 100,000 against one of 1,000", {share}, "ratio", 1.2);
+}
 
+// Milliseconds until a bare window with two lists is on the screen: below that no screen can come.
+double empty_window_time() {
+    QWidget window;
+    window.resize(1130, 600);
+    for (int i = 0; i < 2; ++i)
+        (new QListWidget(&window))->setGeometry(10, 20 + 290 * i, 160, 270);
+    return time_of([&] {
+        window.show();
+        while (!window.windowHandle()->isExposed())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 5);
+        QCoreApplication::processEvents();
+    });
+}
+
+void measure_opening(Report& report) {
     Stage stage(make_program_folder(kSamples, {.empty_packages = 10000, .empty_deals = 1000}));
     const double scans = median_of(9, [&] {
         return time_of([&] {
@@ -146,16 +167,22 @@ void measure_lists(Report& report) {
             scan(stage.folder() / "RVLX/Spellen");
         });
     });
-    report.add_median("preparation screen with 10,000 packages and 1,000 deals against two scans",
-                      times_of(9,
-                               [&] {
-                                   const double time =
-                                       stage.painted([&] { stage.click("frmTavrin01", "cmdNieuwSpel"); });
-                                   forms::user::key(stage.form("frmTavrin03"), forms::kKeyEscape);
-                                   stage.paint();
-                                   return time / scans;
-                               }),
+    const double window = median_of(9, empty_window_time);
+    std::vector<double> times = times_of(9, [&] {
+        const double time = stage.painted([&] { stage.click("frmTavrin01", "cmdNieuwSpel"); });
+        forms::user::key(stage.form("frmTavrin03"), forms::kKeyEscape);
+        stage.paint();
+        return time;
+    });
+    const auto against = [&](double base) {
+        std::vector<double> ratios;
+        for (const double time : times)
+            ratios.push_back(time / base);
+        return ratios;
+    };
+    report.add_median("preparation screen with 10,000 packages and 1,000 deals against two scans", against(scans),
                       "ratio", 2.5);
+    report.add_median("the same against two scans and an empty window", against(scans + window), "ratio", 1.3);
 }
 
 void measure_preparation(Report& report) {
@@ -176,6 +203,21 @@ void measure_preparation(Report& report) {
         clicks.push_back(stage.painted([&] { stage.click("frmTavrin03", "lblRuitenNoord", 0); }));
     }
     report.add_times("preparation: card click to painted", clicks, 8, 8);
+
+    auto& question = stage.control<forms::TextBox>("frmTavrin03", "txtVraag");
+    std::string paragraph;
+    while (paragraph.size() < 10000)
+        paragraph += "zes met troef, schoppenaas en drie in klaveren; ";
+    forms::user::type_all(question, paragraph);
+    stage.paint();
+    QWidget& box = stage.host.front()->view(question)->widget();
+    std::vector<double> letters = times_of(100, [&] {
+        return stage.painted([&] {
+            QKeyEvent key(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, QStringLiteral("x"));
+            QApplication::sendEvent(&box, &key);
+        });
+    });
+    report.add_times("preparation: letter in a paragraph of 10,000 to painted", letters, 33, 33);
 }
 
 void measure_editor(Report& report) {
@@ -277,13 +319,13 @@ void set_aside(const fs::path& folder, int round) {
 }
 
 // A platform with one stick, which is a folder.
-class StickPlatform final : public Platform {
+class StickPlatform final : public platform::Platform {
 public:
     StickPlatform(std::string folder, std::string stick) : folder_(std::move(folder)), stick_(std::move(stick)) {}
     std::string program_folder() const override { return folder_; }
     std::string special_folder(int) const override { return folder_; }
     bool another_instance_runs() override { return false; }
-    Answer message_box(int, const std::string&, const std::string&) override { return Answer::Yes; }
+    platform::Answer message_box(int, const std::string&, const std::string&) override { return platform::Answer::Yes; }
     void set_clipboard(const std::string&) override {}
     void open(const std::string&, const std::string&, const std::string&) override {}
     void show_help(const std::string&) override {}
@@ -292,7 +334,7 @@ public:
     std::vector<std::string> drives() override { return {stick_}; }
     int drive_type(const std::string&) override { return 2; }
     std::string volume_label(const std::string&) override { return "STICK"; }
-    void send_keys(const std::vector<KeyRecord>&) override {}
+    void send_keys(const std::vector<platform::KeyRecord>&) override {}
     bool caps_lock() const override { return false; }
 
 private:
@@ -301,7 +343,7 @@ private:
 };
 
 // Select all and sort of the exchange's left list.
-void measure_large_lists(Report& report, Stage& stage, Programma& programma) {
+void measure_large_lists(Report& report, Stage& stage, services::Programma& programma) {
     forms::user::key(*programma.windows.find("frmTavrin07"), forms::kKeyEscape);
     for (int i = 0; i < 100000; ++i)
         fs::create_directory(stage.folder() / "aftavrin" / ("Spel " + std::to_string(i)));
@@ -319,9 +361,9 @@ void measure_exchange(Report& report, const fs::path& stick) {
     fs::create_directories(on_stick);
     Stage stage(make_program_folder(kSamples, {.packages = kPackages}));
     StickPlatform platform(stage.folder().string(), stick.string());
-    Programma programma(platform, stage.host);
+    services::Programma programma(platform, stage.host);
     stage.host.attach(programma.windows);
-    start(programma);
+    app::start(programma);
     const auto press = [&](const char* name) {
         forms::user::click(programma.windows.find("frmTavrin07")->control(name));
     };
@@ -349,27 +391,42 @@ void measure_exchange(Report& report, const fs::path& stick) {
     stage.host.close_all();
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    const QStringList words = QApplication::arguments();
-    if (words.size() == 4 && words[1] == QStringLiteral("--child")) return run_child(words[2], words[3]);
-    if (words.size() != 2) {
-        std::cerr << "usage: zandolin_bench FILE\n";
-        return 2;
-    }
-    set_up_look();
-    Report report(words[1].toStdString());
-    measure_start(report);
-    measure_table(report);
-    measure_timer(report);
-    measure_lists(report);
-    measure_preparation(report);
-    measure_editor(report);
+void measure_stick(Report& report) {
     const fs::path stick = fs::temp_directory_path() / "zandolin-bench-stick";
     fs::create_directories(stick);
     measure_exchange(report, stick);
     fs::remove_all(stick);
+}
+
+void measure_deal_files(Report& report) { measure_deals(report, QCoreApplication::applicationDirPath().toStdString()); }
+
+// What is measured, by the name that the command line may give.
+constexpr struct {
+    const char* name;
+    void (*measure)(Report& report);
+} kSubjects[] = {
+    {"start", measure_start},         {"table", measure_table},     {"timer", measure_timer},
+    {"lists", measure_lists},         {"opening", measure_opening}, {"preparation", measure_preparation},
+    {"editor", measure_editor},       {"exchange", measure_stick},  {"deals", measure_deal_files},
+    {"window", measure_deals_window},
+};
+
+}  // namespace
+
+// usage: zandolin_bench FILE [SUBJECT...]      without a subject all of them
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    const QStringList words = QApplication::arguments();
+    if (words.size() == 4 && words[1] == QStringLiteral("--child")) return run_child(words[2], words[3]);
+    if (words.size() < 2) {
+        std::cerr << "usage: zandolin_bench FILE [SUBJECT...]\n";
+        return 2;
+    }
+    set_up_look();
+    Report report(words[1].toStdString());
+    const QStringList chosen = words.mid(2);
+    for (const auto& subject : kSubjects) {
+        if (chosen.isEmpty() || chosen.contains(QLatin1String(subject.name))) subject.measure(report);
+    }
     return 0;
 }

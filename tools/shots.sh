@@ -1,92 +1,31 @@
 #!/usr/bin/env bash
 # Plays a lesson in the real program under a virtual display and leaves a picture of each screen.
 #   tools/shots.sh PROGRAM FOLDER PICTURES     FOLDER is a program folder with the sample deals
-# Controls are clicked at their places in twips, as the screens' headers give them; a pixel is 15 of them.
+# shellcheck disable=SC2046  # a place is four words
 set -euo pipefail
 [ "${SHOTS_DISPLAY:-}" = own ] || SHOTS_DISPLAY=own exec "$(dirname "$0")/display.sh" "$0" "$@"
 program=$(realpath "$1")
 folder=$(realpath "$2")
 pictures=$(realpath "$3")
+# shellcheck source=tools/screen.sh
+source "$(dirname "$0")/screen.sh"
 
-processes=()
-trap '[ ${#processes[@]} -eq 0 ] || kill "${processes[@]}" 2>/dev/null || true' EXIT
-readonly LIMIT=60  # seconds that anything may take on a busy machine
-
-# What was on the screen when something did not come.
-give_up() {
-    import -window root "$pictures/failure.png"
-    xwininfo -root -tree >"$pictures/failure.txt"
-    echo "$1; the screen and its windows stand in $pictures/failure.png and failure.txt" >&2
-    exit 1
-}
-# Waits for a window of that title, and for the window manager to give it the keys.
-at() {
-    current=$(timeout $LIMIT xdotool search --onlyvisible --sync --name "^$1\$" | tail -n 1) || true
-    [ -n "$current" ] || give_up "no window: $1"
-    timeout $LIMIT xdotool windowactivate --sync "$current" || give_up "not the active window: $1"
-    settled
-}
-shown() {
-    xwd -root -silent | md5sum
-}
-# Waits until nothing has changed on the screen for so many milliseconds, 200 without a number.
-settled() {
-    local quiet=${1:-200} before now since end=$((SECONDS + LIMIT))
-    before=$(shown)
-    since=$(date +%s%3N)
-    while [ $(($(date +%s%3N) - since)) -lt "$quiet" ]; do
-        [ $SECONDS -lt $end ] || give_up "the screen does not come to rest"
-        now=$(shown)
-        [ "$now" = "$before" ] || since=$(date +%s%3N)
-        before=$now
-    done
-}
-# changes COMMAND...: does it, and waits until the screen has answered and come to rest.
-changes() {
-    local before end=$((SECONDS + LIMIT))
-    before=$(shown)
-    "$@"
-    while [ "$(shown)" = "$before" ]; do
-        [ $SECONDS -lt $end ] || give_up "nothing changes after: $*"
-    done
-    settled
-}
-point() {
-    xdotool mousemove --window "$current" "$1" "$2"
-    settled
-}
-# click LEFT TOP WIDTH HEIGHT: the middle of a control, in twips within the window.
-click() {
-    point $((($1 + $3 / 2) / 15)) $((($2 + $4 / 2) / 15))
-    changes xdotool click 1
-}
-# line LEFT TOP NUMBER: a line of a list that begins there.
-line() {
-    point $(($1 / 15 + 30)) $(($2 / 15 + 8 + 13 * $3))
-    changes xdotool click 1
-}
-key() {
-    changes xdotool key --window "$current" "$1"
-}
 # The table plays on until it shows a text or all cards are played.
 play_on() {
     key "$1"
     settled 1500
 }
 picture() {
-    xdotool mousemove 1 1
-    settled
+    put_mouse_away
     import -window root "$pictures/$1.png"
 }
 whole_window() {
-    xdotool mousemove 1 1
-    settled
+    put_mouse_away
     import -window "$current" "$pictures/$1.png"
 }
 
 printf '[Platform]\r\nProgramFiles=.\r\n[Standaard]\r\nSnelheid=100\r\n' >"$folder/standaardtavrin.ini"
-"$program" --program "$folder" &
-processes+=($!)
+start_program
 
 # The table.
 at "Zandolin Lomert"
@@ -103,25 +42,33 @@ for _ in $(seq 7); do play_on alt+v; done
 picture table-end
 key Escape
 
+# A lesson that came from another program.
+at "Zandolin Lomert"
+line 3750 420 5
+click 5280 4530 1545 435
+at "Zandolin"
+play_on alt+s
+picture deals-table
+key Escape
+
 # A deal is recorded: two tricks, and the beginning of the third.
-# card LEFT TOP SUIT NUMBER: a card label in the frame of a seat that stands there; suits count from 0, cards too.
-card() {
-    click $(($1 + 420 + 315 * $4)) $(($2 + 300 + 300 * $3)) 315 300
-}
 at "Zandolin Lomert"
 click 1740 4530 1845 435
 at "Maak een spel uit RVLX gereed om te tavrin"
 line 210 450 0
-card 5580 120 2 3
-card 7980 1890 2 2
-card 5580 3660 2 1
-card 2970 1890 2 1
-card 5580 120 2 2
-card 7980 1890 2 1
-card 5580 3660 2 0
-card 2970 1890 1 1
-card 5580 120 1 2
+click $(card_place 1 2 3)
+click $(card_place 2 2 2)
+click $(card_place 3 2 1)
+click $(card_place 4 2 1)
+click $(card_place 1 2 2)
+click $(card_place 2 2 1)
+click $(card_place 3 2 0)
+click $(card_place 4 1 1)
+click $(card_place 1 1 2)
 whole_window preparation
+# A board of a club's file, where the samples' own deals end.
+line 210 450 9
+whole_window deals
 key Escape
 
 # Texts on the cards of a package.
@@ -159,7 +106,21 @@ line 240 420 2
 whole_window exchange
 key Escape
 
+# Files of other programs and the lessons, in the window of deals.
+"$(dirname "$program")/zandolin_deals_desktop" --program "$folder" samples/files/*.pbn samples/files/*.lin &
+processes+=($!)
+at "Zandolin Lomert - Spellen en lessen"
+settled 1500
+for _ in $(seq 7); do key Down; done
+whole_window deals-window
+key alt+l
+settled 1500
+for _ in $(seq 4); do key Down; done
+whole_window deals-lessons
+xdotool key ctrl+q
+
 # A deal that is damaged ends in the report.
+at "Zandolin Lomert"
 rm "$folder/aftavrin/QVT_Spel 003/QVT_Spel 003 aftavrin.txt"
 at "Zandolin Lomert"
 line 3750 420 2

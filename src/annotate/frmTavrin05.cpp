@@ -7,17 +7,19 @@
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "services/Bas_Aftavrin.h"
+#include "services/Kleuren.h"
+
+namespace annotate {
 
 namespace {
 
+namespace kleuren = services::kleuren;
+
 constexpr forms::Size kInner{16260, 6645};
 constexpr int kPerRij = 13;
-constexpr Colour kZwart{0};
-constexpr Colour kBlauw{0xFF0000};
-constexpr Colour kVoorbeeldBlauw = Colour::rgb(0, 0, 192);
 constexpr double kOnderNummer = 240;  // from a number to the picture below it
 
-constexpr kaart::PerPlaats<forms::Rect> kKompas{
+constexpr cards::PerPlaats<forms::Rect> kKompas{
     {2040, 720, 1560, 225}, {3990, 1830, 1560, 225}, {2040, 3570, 1560, 225}, {150, 1830, 1560, 225}};
 
 forms::Rect kaart_plek(int plaats) {
@@ -26,7 +28,8 @@ forms::Rect kaart_plek(int plaats) {
 }
 
 forms::Rect nummer_plek(int index) {
-    return {255.0 + 570 * (index % kPerRij), 270.0 + 840 * (index / kPerRij), 450, 225};
+    const int rij = index / kPerRij;
+    return {255.0 + 570 * (index % kPerRij), 270.0 + 840 * rij, 450, 225};
 }
 
 forms::Rect merk_plek(int index) {
@@ -36,15 +39,15 @@ forms::Rect merk_plek(int index) {
 
 }  // namespace
 
-frmTavrin05::frmTavrin05(Programma& programma)
-    : Scherm(programma, "frmTavrin05", kInner,
-             {.key_up = "frmTavrin05 - Form - KeyUp",
-              .terug = "frmTavrin05 - cmdTerug - Click",
-              .query_unload = "frmTavrin05 - Form - QueryUnload"}),
+frmTavrin05::frmTavrin05(services::Programma& programma)
+    : services::Scherm(programma, "frmTavrin05", kInner,
+                       {.key_up = "frmTavrin05 - Form - KeyUp",
+                        .terug = "frmTavrin05 - cmdTerug - Click",
+                        .query_unload = "frmTavrin05 - Form - QueryUnload"}),
       lblKaartNummer(fraSlag, "lblKaartNummer", 1, 4, kKompas),
       picKaart(fraSlag, "picKaart", 1, 4, kaart_plek),
-      lblYesNo(fraKaartMetTekst, "lblYesNo", 0, kaart::kKaarten - 1, nummer_plek),
-      picYesNo(fraKaartMetTekst, "picYesNo", 0, kaart::kKaarten - 1, merk_plek) {
+      lblYesNo(fraKaartMetTekst, "lblYesNo", 0, cards::kKaarten - 1, nummer_plek),
+      picYesNo(fraKaartMetTekst, "picYesNo", 0, cards::kKaarten - 1, merk_plek) {
     stel_uiterlijk_in();
     chkSorteer.Click = [this] { chkSorteer_Click(); };
     lstSpellen.Click = [this] { lstSpellen_Click(); };
@@ -71,7 +74,7 @@ void frmTavrin05::stel_uiterlijk_in() {
     txtSlag.MaxLength = 3;
     txtSlag.Alignment = forms::Alignment::Centre;
     vscrSlag.Min = -1;
-    vscrSlag.Max = kaart::kSlagen;
+    vscrSlag.Max = cards::kSlagen;
     lblUit.AutoSize = true;
     lblToonSlag.Visible = false;
     lblDezeKaart.AutoSize = true;
@@ -93,7 +96,7 @@ void frmTavrin05::stel_uiterlijk_in() {
     }
     txtInformatie.MaxLength = 255;
     txtVoorbeeld.MaxLength = 253;
-    txtVoorbeeld.BackColor = kVoorbeeldBlauw;
+    txtVoorbeeld.BackColor = kleuren::kVoorbeeldBlauw;
     txtVoorbeeld.ForeColor = forms::kWindowColour;
     txtKnipTekst.Visible = false;
     frmVoorbeeld.Visible = false;
@@ -123,27 +126,29 @@ void frmTavrin05::Form_Load() {
         // As wide as the preview, so that a text is cut where the preview would break it.
         txtKnipTekst.Move(2490, txtVoorbeeld.Top, txtVoorbeeld.Width, txtVoorbeeld.Height);
         lees_spellen();
-        for (int slag = kaart::kSlagen; slag >= 1; --slag)
+        for (int slag = cards::kSlagen; slag >= 1; --slag)
             lstSlag.AddItem(std::to_string(slag));
-        zet_balk(kaart::kSlagen);
+        zet_balk(cards::kSlagen);
         zet_alles_dicht();
     });
 }
 
 void frmTavrin05::lees_spellen() {
-    Kaarten::LeesSpellen(*this, lstSpellen, dirSpellen, programma.pakketten(), chkSorteer.Value);
+    cards::Kaarten::LeesSpellen(*this, lstSpellen, dirSpellen, programma.pakketten(), chkSorteer.Value);
 }
 
 // Card backs, numbers without a card, and no marker that tells of a text.
 void frmTavrin05::zet_alles_dicht() {
-    for (const int plaats : kaart::kPlaatsen) {
-        picKaart(plaats).Picture = Bas_Aftavrin::LaadPlaatje(gedeeld.kaartRugId);
+    for (const int plaats : cards::kPlaatsen) {
+        picKaart(plaats).Picture = services::Bas_Aftavrin::LaadPlaatje(gedeeld.kaartRugId);
         picKaart(plaats).AccessibleName = "";
         lblKaartNummer(plaats).Caption = LeesResString(Bericht::Nummer);
     }
-    for (int i = 0; i < kaart::kKaarten; ++i) {
+    for (int i = 0; i < cards::kKaarten; ++i) {
         lblYesNo(i).Caption = std::to_string(i + 1);
         picYesNo(i).Picture = picNee.Picture();
+        picYesNo(i).AccessibleName = LeesResString(Bericht::Nummer) + " " + std::to_string(i + 1);
+        picYesNo(i).ToolTipText = "";
     }
 }
 
@@ -170,17 +175,17 @@ void frmTavrin05::lstSpellen_Click() {
     Foutpad("frmTavrin05 - lstSpellen - Click", [&] {
         const std::string naam = lstSpellen.Text();
         const std::string map = programma.pakket(naam);
-        const std::string stam = join_path(map, naam);
+        const std::string stam = platform::join_path(map, naam);
         gedeeld.spelMapKopie = map;
         schakel_kaders(false);
         if (ontbreekt(stam + " contract.txt", "(" + naam + " contract.txt)")) return;
-        fraSlag.Caption = Kaarten::eerste_regel(stam + " contract.txt");
+        fraSlag.Caption = cards::Kaarten::eerste_regel(stam + " contract.txt");
         lblToonSlag.Caption = "";
         EersteNummer = -3;
         if (ontbreekt(stam + " aftavrin.txt", naam + " aftavrin.txt")) return;
         lees_speelrijen(stam + " aftavrin.txt");
         lstInformatie.Clear();
-        for (int nummer = 1; nummer <= kaart::kKaarten; ++nummer)
+        for (int nummer = 1; nummer <= cards::kKaarten; ++nummer)
             lstInformatie.AddItem(std::to_string(nummer) + "|");
         zet_alles_dicht();
         lees_teksten(stam + " informatie.txt");
@@ -195,28 +200,29 @@ void frmTavrin05::lstSpellen_Click() {
 
 // Tells that a file of the deal is missing.
 bool frmTavrin05::ontbreekt(const std::string& bestand, const std::string& genoemd) {
-    if (Kaarten::aanwezig(bestand)) return false;
-    std::string melding = replaced(LeesResString(Bericht::BestandNietGevonden), "~", genoemd);
-    melding = replaced(replaced(melding, "+", gedeeld.spelMapKopie), "|", "\n");
-    programma.platform.message_box(box_style::kInformation, Caption(), melding);
+    if (cards::Kaarten::aanwezig(bestand)) return false;
+    std::string melding = base::replaced(LeesResString(Bericht::BestandNietGevonden), "~", genoemd);
+    melding = base::replaced(base::replaced(melding, "+", gedeeld.spelMapKopie), "|", "\n");
+    programma.platform.message_box(platform::box_style::kInformation, Caption(), melding);
     cmdFocus.SetFocus();
     return true;
 }
 
 void frmTavrin05::lees_speelrijen(const std::string& pad) {
     lstAfTavrin.Clear();
-    for (LineReader regels(pad); !regels.at_end();)
+    for (platform::LineReader regels(pad); !regels.at_end();)
         lstAfTavrin.AddItem(regels.line());
 }
 
 void frmTavrin05::lees_teksten(const std::string& pad) {
-    if (!Kaarten::aanwezig(pad)) return;
+    if (!cards::Kaarten::aanwezig(pad)) return;
     int regel = 0;
-    for (const std::string& record : read_records(pad, Kaarten::kRecordLengte, Kaarten::kAantalRecords)) {
-        gedeeld.delen = split(trimmed(record), "|");
-        if (gedeeld.delen.last() == 1 && !trimmed(gedeeld.delen[1]).empty()) {
+    for (const std::string& record :
+         platform::read_records(pad, cards::Kaarten::kRecordLengte, cards::Kaarten::kAantalRecords)) {
+        gedeeld.delen = base::split(base::trimmed(record), "|");
+        if (gedeeld.delen.last() == 1 && !base::trimmed(gedeeld.delen[1]).empty()) {
             for (int j = 0; j < lstInformatie.ListCount(); ++j) {
-                if (numeric_value(lstInformatie.List(j)) != numeric_value(gedeeld.delen[0])) continue;
+                if (base::numeric_value(lstInformatie.List(j)) != base::numeric_value(gedeeld.delen[0])) continue;
                 picYesNo(j).Picture = picJa.Picture();
                 break;
             }
@@ -227,7 +233,7 @@ void frmTavrin05::lees_teksten(const std::string& pad) {
 
 // Without its change.
 void frmTavrin05::zet_balk(int waarde) {
-    const Zolang bezig(ScrollBezig, true);
+    const base::Zolang bezig(ScrollBezig, true);
     vscrSlag.Value = waarde;
 }
 
@@ -238,7 +244,7 @@ void frmTavrin05::vscrSlag_Change() {
         const int laatste = lstSlag.ListCount() - 1;
         if (vscrSlag.Value < 0 || vscrSlag.Value > laatste) zet_balk(vscrSlag.Value < 0 ? laatste : 0);
         txtSlag.Text = lstSlag.List(vscrSlag.Value);
-        const int slag = numeric_value(txtSlag.Text());
+        const int slag = base::numeric_value(txtSlag.Text());
         EersteNummer = (slag - 1) * 4 + 1;
         toon_slag(lstAfTavrin.List(slag - 1));
         ZetJaNeePic();
@@ -246,23 +252,25 @@ void frmTavrin05::vscrSlag_Change() {
 }
 
 void frmTavrin05::toon_slag(const std::string& rij) {
-    gedeeld.delen = split(rij, "|");
-    const int uitkomer = numeric_value(left(gedeeld.delen[0], 1));
-    lblUit.Caption = LeesResString(Bericht::Uit) + ":" + LeesResString(kaart::bericht_van_plaats(uitkomer));
+    gedeeld.delen = base::split(rij, "|");
+    const int uitkomer = base::numeric_value(base::left(gedeeld.delen[0], 1));
+    lblUit.Caption = LeesResString(Bericht::Uit) + ":" + LeesResString(cards::bericht_van_plaats(uitkomer));
     lblToonSlag.Caption = rij;
-    for (const int plaats : kaart::kPlaatsen) {
+    for (const int plaats : cards::kPlaatsen) {
         lblKaartNummer(plaats).FontBold = false;
-        lblKaartNummer(plaats).ForeColor = kZwart;
+        lblKaartNummer(plaats).ForeColor = kleuren::kZwart;
     }
     lblKaartNummer(uitkomer).FontBold = true;
-    lblKaartNummer(uitkomer).ForeColor = kBlauw;
-    for (int i = 0, plaats = uitkomer; i < 4; ++i, plaats = kaart::volgende_plaats(plaats)) {
+    lblKaartNummer(uitkomer).ForeColor = kleuren::kBlauw;
+    for (int i = 0, plaats = uitkomer; i < 4; ++i, plaats = cards::volgende_plaats(plaats)) {
         lblKaartNummer(plaats).Caption = LeesResString(Bericht::Nummer) + ": " + std::to_string(EersteNummer + i);
     }
     // The pictures stay at their seats, only the numbers follow the order of play.
-    for (const int plaats : kaart::kPlaatsen) {
-        const int code = numeric_value(gedeeld.delen[plaats]);
-        picKaart(plaats).Picture = Bas_Aftavrin::LaadPlaatje(code);
-        picKaart(plaats).AccessibleName = kaart::titel(code);
+    for (const int plaats : cards::kPlaatsen) {
+        const int code = base::numeric_value(gedeeld.delen[plaats]);
+        picKaart(plaats).Picture = services::Bas_Aftavrin::LaadPlaatje(code);
+        picKaart(plaats).AccessibleName = cards::titel(code);
     }
 }
+
+}  // namespace annotate

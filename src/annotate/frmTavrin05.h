@@ -14,6 +14,8 @@
 #include "forms/VScrollBar.h"
 #include "services/Scherm.h"
 
+namespace annotate {
+
 // The editor: a text for each of the 52 cards of a stored deal, in the order in which they are played. It rewrites
 // one file of the package, " informatie.txt". The choice of a deal and of a trick lie in frmTavrin05.cpp, the texts of
 // the cards in frmTavrin05_Tekst.cpp.
@@ -29,9 +31,9 @@
 //   lstSlag                 trick numbers, 13 down to 1          Form_Load           vscrSlag_Change
 //   lblKaartNummer.Caption  the card's number in order of play   toon_slag           lblKaartNummer_Click
 //   chkSorteer.Caption      what its next click does             chkSorteer_Click    the same
-class frmTavrin05 final : public Scherm {
+class frmTavrin05 final : public services::Scherm {
 public:
-    explicit frmTavrin05(Programma& programma);
+    explicit frmTavrin05(services::Programma& programma);
     void Form_Load() override;
     void Form_Activate() override;
 
@@ -106,3 +108,5 @@ private:
     bool ScrollBezig = false;
     bool TekstHouden = false;
 };
+
+}  // namespace annotate

@@ -7,13 +7,28 @@
 #include "services/Bas_Aftavrin.h"
 #include "services/Knip_Tekst.h"
 
+namespace annotate {
+
 // Lines that are empty leave their marker as it is.
+namespace {
+
+// As much of a text as can be read in passing.
+std::string begin_van(const std::string& tekst) {
+    constexpr std::size_t kMost = 60;
+    const std::string regel = base::replaced(tekst, "~", " ");
+    return regel.size() <= kMost ? regel : base::left(regel, kMost) + "...";
+}
+
+}  // namespace
+
 void frmTavrin05::ZetJaNeePic() {
     Foutpad("frmTavrin05 - General - ZetJaNeePic", [&] {
         for (int i = 0; i < lstInformatie.ListCount(); ++i) {
-            if (trimmed(lstInformatie.List(i)).empty()) continue;
-            gedeeld.delen = split(lstInformatie.List(i), "|");
-            picYesNo(i).Picture = trimmed(gedeeld.delen[1]).empty() ? picNee.Picture() : picJa.Picture();
+            if (base::trimmed(lstInformatie.List(i)).empty()) continue;
+            gedeeld.delen = base::split(lstInformatie.List(i), "|");
+            const std::string tekst = base::trimmed(gedeeld.delen[1]);
+            picYesNo(i).Picture = tekst.empty() ? picNee.Picture() : picJa.Picture();
+            picYesNo(i).ToolTipText = begin_van(tekst);
         }
     });
 }
@@ -27,8 +42,8 @@ void frmTavrin05::picKaart_Click(int index) {
 
 void frmTavrin05::lblKaartNummer_Click(int index) {
     Foutpad("frmTavrin05 - lblKaartNummer - Click", [&] {
-        gedeeld.delen = split(lblKaartNummer(index).Caption(), ": ");
-        picYesNo_Click(numeric_value(gedeeld.delen[1]) - 1);
+        gedeeld.delen = base::split(lblKaartNummer(index).Caption(), ": ");
+        picYesNo_Click(base::numeric_value(gedeeld.delen[1]) - 1);
     });
 }
 
@@ -36,25 +51,25 @@ void frmTavrin05::picYesNo_Click(int index) {
     Foutpad("frmTavrin05 - picYesNo - Click", [&] {
         fraKaartMetTekst.Tag = std::to_string(index);
         const std::string nummer = lblYesNo(index).Caption();
-        const int regel = Bas_Aftavrin::GetListBoxIndex(programma, lstInformatie, nummer + "|", false);
-        gedeeld.delen = split(lstInformatie.List(regel), "|");
-        txtInformatie.Text = replaced(gedeeld.delen[1], "~", "\r\n");
+        const int regel = services::Bas_Aftavrin::GetListBoxIndex(programma, lstInformatie, nummer + "|", false);
+        gedeeld.delen = base::split(lstInformatie.List(regel), "|");
+        txtInformatie.Text = base::replaced(gedeeld.delen[1], "~", "\r\n");
         lblDezeKaart.Caption = LeesResString(Bericht::Nummer) + ": " + nummer;
         lblDezeKaart.Left = cmdGebruiken.Left - lblDezeKaart.Width - 128;
         {
-            const Zolang houdt(TekstHouden, true);
+            const base::Zolang houdt(TekstHouden, true);
             vscrSlag.Value = 12 - index / 4;
         }
         ZetJaNeePic();
         picYesNo(index).Picture = picBezig.Picture();
-        txtInformatie.Text = trimmed(txtInformatie.Text());
+        txtInformatie.Text = base::trimmed(txtInformatie.Text());
         txtInformatie.SetFocus();
     });
 }
 
 void frmTavrin05::txtInformatie_Change() {
     Foutpad("frmTavrin05 - txtInformatie - Change", [&] {
-        const bool heeft_tekst = !trimmed(txtInformatie.Text()).empty();
+        const bool heeft_tekst = !base::trimmed(txtInformatie.Text()).empty();
         for (forms::CommandButton* knop : {&cmdGebruiken, &cmdWissen, &cmdVoorBeeld})
             knop->Enabled = heeft_tekst;
     });
@@ -75,9 +90,9 @@ void frmTavrin05::cmdWissen_Click() {
             cmdFocus.SetFocus();
             return;
         }
-        const std::string kaart = LeesResString(Bericht::Kaart) + lower_case(lblDezeKaart.Caption());
-        const std::string vraag = replaced(LeesResString(Bericht::InformatieWissen), "~", kaart);
-        if (programma.platform.message_box(box_style::kQuestion, Caption(), vraag) == Answer::No) {
+        const std::string kaart = LeesResString(Bericht::Kaart) + base::lower_case(lblDezeKaart.Caption());
+        const std::string vraag = base::replaced(LeesResString(Bericht::InformatieWissen), "~", kaart);
+        if (programma.platform.message_box(platform::box_style::kQuestion, Caption(), vraag) == platform::Answer::No) {
             cmdFocus.SetFocus();
             return;
         }
@@ -89,15 +104,15 @@ void frmTavrin05::cmdWissen_Click() {
 // Stores the text of the chosen card and writes all records anew. The file is replaced whole: a failure in the middle
 // leaves the texts as they were.
 void frmTavrin05::bewaar_tekst(const std::string& tekst, const std::string& map, const std::string& naam) {
-    const int k = numeric_value(fraKaartMetTekst.Tag());
+    const int k = base::numeric_value(fraKaartMetTekst.Tag());
     lstInformatie.SetList(k, std::to_string(k + 1) + "|" + tekst);
     std::string bytes;
     for (int i = 0; i < lstInformatie.ListCount(); ++i) {
-        bytes += record_bytes(lstInformatie.List(i), Kaarten::kRecordLengte);
+        bytes += platform::record_bytes(lstInformatie.List(i), cards::Kaarten::kRecordLengte);
     }
-    const std::string pad = join_path(map, naam + " informatie.txt");
-    refuse_links(programma.pakketten(), pad);
-    replace_file(pad, bytes);
+    const std::string pad = platform::join_path(map, naam + " informatie.txt");
+    platform::refuse_links(programma.pakketten(), pad);
+    platform::replace_file(pad, bytes);
 }
 
 void frmTavrin05::cmdVoorBeeld_Click() {
@@ -106,8 +121,8 @@ void frmTavrin05::cmdVoorBeeld_Click() {
             kader->Enabled = false;
         lstKnipTekst.Clear();
         txtKnipTekst.Text = txtInformatie.Text();
-        Knip_Tekst(txtKnipTekst, lstKnipTekst);
-        txtVoorbeeld.Text = met_regeleinden(lstKnipTekst);
+        services::Knip_Tekst(txtKnipTekst, lstKnipTekst);
+        txtVoorbeeld.Text = services::met_regeleinden(lstKnipTekst);
         frmVoorbeeld.Visible = true;
     });
 }
@@ -128,3 +143,5 @@ void frmTavrin05::cmdToonSpel_Click() {
         programma.schermen.toon("frmTavrin06");
     });
 }
+
+}  // namespace annotate

@@ -2,6 +2,9 @@
 
 #include "cards/Kaarten.h"
 #include "services/Bas_Aftavrin.h"
+#include "services/Kleuren.h"
+
+namespace annotate {
 
 namespace {
 
@@ -16,21 +19,20 @@ constexpr double kKleurenBoven = kNoordBoven + 1600;
 constexpr double kWestLinks = 100;
 constexpr double kOostOntwerp = 3500;  // left of East's first card before it is placed
 constexpr double kMaxLetter = 11.5;    // points
-constexpr Colour kTafelgroen = Colour::rgb(24, 96, 60);
 
 }  // namespace
 
-frmTavrin06::frmTavrin06(Programma& programma)
-    : Scherm(programma, "frmTavrin06", kInner,
-             {.key_up = "frmTavrin06 - Form - KeyUp",
-              .terug = "frmTavrin06 - cmdTerug - Click",
-              .query_unload = "frmTavrin06 - Form - QueryUnload"}),
+frmTavrin06::frmTavrin06(services::Programma& programma)
+    : services::Scherm(programma, "frmTavrin06", kInner,
+                       {.key_up = "frmTavrin06 - Form - KeyUp",
+                        .terug = "frmTavrin06 - cmdTerug - Click",
+                        .query_unload = "frmTavrin06 - Form - QueryUnload"}),
       picKaart([this](int plaats) {
-          const double links = plaats == kaart::kOost ? kOostOntwerp : 0;
-          return forms::ControlArray<forms::PictureBox>(picBack, std::string("picKaart") + kaart::kPlaatsNaam(plaats),
+          const double links = plaats == cards::kOost ? kOostOntwerp : 0;
+          return forms::ControlArray<forms::PictureBox>(picBack, std::string("picKaart") + cards::kPlaatsNaam(plaats),
                                                         {{0, {links, 0, kKaartBreedte, kKaartHoogte}}});
       }) {
-    picBack.BackColor = kTafelgroen;
+    picBack.BackColor = services::kleuren::kTafelgroen;
     picPlay.Visible = false;
     fraSlagen.Visible = false;
     for (auto& hand : picKaart) {
@@ -46,30 +48,32 @@ frmTavrin06::frmTavrin06(Programma& programma)
 void frmTavrin06::Form_Load() {
     Foutpad("frmTavrin06 - Form - Load", [&] {
         programma.maten.maxLetterGrootte = kMaxLetter;
-        gedeeld.delen = split(gedeeld.spelNaam, " ");
-        Caption = LeesResString(Bericht::Spel) + " " + std::to_string(numeric_value(gedeeld.delen[1]));
-        picBack.Move(static_cast<int>(Width - picBack.Width) / 2, static_cast<int>(Height - picBack.Height) / 2);
+        gedeeld.delen = base::split(gedeeld.spelNaam, " ");
+        Caption = LeesResString(Bericht::Spel) + " " + std::to_string(base::numeric_value(gedeeld.delen[1]));
+        picBack.Move(forms::half(Width - picBack.Width), forms::half(Height - picBack.Height));
         cmdTerug.Caption = "&" + LeesResString(Bericht::Terug);
-        for (int i = 1; i <= kaart::kKaartenPerKleur; ++i) {
+        for (int i = 1; i <= cards::kKaartenPerKleur; ++i) {
             for (auto& hand : picKaart)
                 hand.Load(i).ZOrder();
         }
         lijsten.vul_kaarten();
-        Kaarten::LeesKartenBestandIn(*this, lijsten);
-        Kaarten::VerdeelDeKaarten(*this, lijsten);
-        leg_rij(kaart::kNoord, kNoordBoven);
-        leg_kleuren(kaart::kOost, picKaart(kaart::kOost)(0).right(), true);
-        leg_rij(kaart::kZuid, kZuidBoven);
-        leg_kleuren(kaart::kWest, kWestLinks, false);
+        cards::Kaarten::LeesKartenBestandIn(*this, lijsten);
+        cards::Kaarten::VerdeelDeKaarten(*this, lijsten);
+        leg_rij(cards::kNoord, kNoordBoven);
+        leg_kleuren(cards::kOost, picKaart(cards::kOost)(0).right(), true);
+        leg_rij(cards::kZuid, kZuidBoven);
+        leg_kleuren(cards::kWest, kWestLinks, false);
         cmdTerug.ZOrder();
         centreer();
-        Bas_Aftavrin::BewaarMaten(programma, *this);
+        services::Bas_Aftavrin::BewaarMaten(programma, *this);
     });
 }
 
-void frmTavrin06::leg_kaart(forms::PictureBox& plek, const std::string& code, double links, double boven) {
-    plek.Picture = Bas_Aftavrin::LaadPlaatje(kaart::nummer_van(code) + resources::plaatje::kKleineKaarten);
-    plek.AccessibleName = kaart::titel(numeric_value(code));
+void frmTavrin06::leg_kaart(int plaats, int element, const std::string& code, double links, double boven) {
+    forms::PictureBox& plek = picKaart(plaats)(element);
+    plek.Picture = services::Bas_Aftavrin::LaadPlaatje(cards::nummer_van(code) + resources::plaatje::kKleineKaarten);
+    plek.AccessibleName =
+        LeesResString(cards::bericht_van_plaats(plaats)) + ": " + cards::titel(base::numeric_value(code));
     plek.Tag = code;
     plek.BorderStyle = 0;
     plek.Move(links, boven);
@@ -79,10 +83,10 @@ void frmTavrin06::leg_kaart(forms::PictureBox& plek, const std::string& code, do
 // One row over all suits.
 void frmTavrin06::leg_rij(int plaats, double boven) {
     int n = 0;
-    for (const kaart::Kleur kleur : kaart::kToonVolgorde) {
+    for (const cards::Kleur kleur : cards::kToonVolgorde) {
         const forms::ListBox& lijst = lijsten.lstKleur(kleur)(plaats);
         for (int i = 0; i < lijst.ListCount(); ++i, ++n) {
-            leg_kaart(picKaart(plaats)(n + 1), lijst.List(i), kStartLinks + n * kStap, boven);
+            leg_kaart(plaats, n + 1, lijst.List(i), kStartLinks + n * kStap, boven);
         }
     }
 }
@@ -91,20 +95,22 @@ void frmTavrin06::leg_rij(int plaats, double boven) {
 void frmTavrin06::leg_kleuren(int plaats, double links, bool binnen_kader) {
     double boven = kKleurenBoven;
     int element = 0;
-    for (const kaart::Kleur kleur : kaart::kToonVolgorde) {
+    for (const cards::Kleur kleur : cards::kToonVolgorde) {
         const forms::ListBox& lijst = lijsten.lstKleur(kleur)(plaats);
         const double breedte = lijst.ListCount() * gedeeld.kaartStap + kKaartBreedte;
         while (binnen_kader && breedte + links > fraSlagen.Left - 128)
             links -= kStap;
         for (int i = 0; i < lijst.ListCount(); ++i) {
-            leg_kaart(picKaart(plaats)(++element), lijst.List(i), links + i * kStap, boven);
+            leg_kaart(plaats, ++element, lijst.List(i), links + i * kStap, boven);
         }
         boven += kStap;
     }
 }
 
-void frmTavrin06::Form_Resize() { Bas_Aftavrin::PasMatenAan(programma, *this); }
+void frmTavrin06::Form_Resize() { services::Bas_Aftavrin::PasMatenAan(programma, *this); }
 
 void frmTavrin06::verlaat() {
     if (gedeeld.vorigScherm == 5) programma.schermen.toon("frmTavrin05");
 }
+
+}  // namespace annotate

@@ -3,6 +3,8 @@
 #include <compare>
 #include <cstdint>
 
+namespace base {
+
 // A colour as the system stores it: 0xBBGGRR, blue in the highest used byte.
 struct Colour {
     std::uint32_t value = 0;
@@ -16,3 +18,5 @@ struct Colour {
 
     friend constexpr auto operator<=>(Colour, Colour) = default;
 };
+
+}  // namespace base

@@ -3,6 +3,8 @@
 #include <array>
 #include <utility>
 
+namespace base {
+
 namespace {
 
 constexpr std::array kTexts{
@@ -42,7 +44,7 @@ FoutNummer number_of(const std::error_code& error) {
         return FoutNummer::PermissionDenied;
     }
     if (error == std::errc::is_a_directory || error == std::errc::filename_too_long ||
-        error == std::errc::too_many_symbolic_link_levels) {
+        error == std::errc::invalid_argument || error == std::errc::too_many_symbolic_link_levels) {
         return FoutNummer::PathAccess;
     }
     return FoutNummer::DeviceError;
@@ -54,3 +56,5 @@ Fout::Fout(FoutNummer number, const std::string& detail)
     : std::runtime_error(text_of(number, detail)), number_(number) {}
 
 Fout Fout::from(const std::error_code& error, const std::string& detail) { return Fout(number_of(error), detail); }
+
+}  // namespace base

@@ -4,6 +4,8 @@
 #include <string>
 #include <system_error>
 
+namespace base {
+
 // The numbers of run-time failures that the system reports. Their Dutch texts stand in one table in Fout.cpp.
 enum class FoutNummer {
     InvalidCall = 5,
@@ -38,3 +40,5 @@ public:
 private:
     FoutNummer number_;
 };
+
+}  // namespace base

@@ -7,6 +7,8 @@
 
 #include "base/Fout.h"
 
+namespace base {
+
 namespace {
 
 constexpr unsigned char kCapitalSHacek = 0x8A;
@@ -134,3 +136,5 @@ std::string right(std::string_view text, std::size_t count) {
 std::string middle(std::string_view text, std::size_t from) {
     return from > text.size() ? std::string() : std::string(text.substr(from - 1));
 }
+
+}  // namespace base

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+namespace base {
+
 // Text inside the program is Windows-1252, one byte a character.
 
 // The pieces of a split text, numbered from 0. A number that is not there is failure 9.
@@ -48,3 +50,5 @@ std::string left(std::string_view text, std::size_t count);
 std::string right(std::string_view text, std::size_t count);
 // From character `from` (the first is 1) to the end; nothing where the text is shorter.
 std::string middle(std::string_view text, std::size_t from);
+
+}  // namespace base

@@ -1,5 +1,7 @@
 #pragma once
 
+namespace base {
+
 // A mode that has a value as long as this lives, however its scope ends; then it is again what it was.
 template <class Mode, class Value>
 class Zolang {
@@ -13,3 +15,5 @@ private:
     Mode& mode_;
     const Value before_;
 };
+
+}  // namespace base

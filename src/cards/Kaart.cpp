@@ -4,15 +4,15 @@
 #include <limits>
 
 #include "base/Text.h"
+#include "services/Kleuren.h"
 
-namespace kaart {
+namespace cards {
 
 namespace {
 
-constexpr Colour kZwart{0};
-constexpr Colour kRood{255};
-
 using resources::Bericht;
+using services::kleuren::kRood;
+using services::kleuren::kZwart;
 namespace plaatje = resources::plaatje;
 
 constexpr std::array<KleurGegevens, 4> kGegevens{{
@@ -27,7 +27,7 @@ constexpr std::array<KleurGegevens, 4> kGegevens{{
 const KleurGegevens& gegevens(Kleur kleur) { return kGegevens[static_cast<std::size_t>(kleur)]; }
 
 int nummer_van(std::string_view kaartcode) {
-    return std::max(numeric_value(kaartcode), std::numeric_limits<int>::min() + kCodeBasis) - kCodeBasis;
+    return std::max(base::numeric_value(kaartcode), std::numeric_limits<int>::min() + kCodeBasis) - kCodeBasis;
 }
 
 Kleur kleur_van(int kaartnummer) {
@@ -56,4 +56,4 @@ std::string titel(int kaartcode) {
            waarde_woorden()[static_cast<std::size_t>((nummer - 1) % kKaartenPerKleur)];
 }
 
-}  // namespace kaart
+}  // namespace cards

@@ -13,7 +13,7 @@
 // Seats run clockwise from 1 Noord over 2 Oost and 3 Zuid to 4 West; the odd ones are Noord-Zuid. A card number runs
 // from 1 to 52 through Schoppen, Harten, Ruiten and Klaveren, each from the two up to the ace; the card code is 2200
 // more, and is at the same time the number of the card's large picture.
-namespace kaart {
+namespace cards {
 
 inline constexpr int kNoord = 1;
 inline constexpr int kOost = 2;
@@ -36,9 +36,9 @@ inline constexpr std::array kToonVolgorde{Kleur::Schoppen, Kleur::Harten, Kleur:
 struct KleurGegevens {
     resources::Bericht letter;
     resources::Bericht woord;
-    const char* naam;   // the word in a contract, a title and the names of controls
-    int plaatje;        // picture of the suit symbol
-    Colour tekstkleur;  // black or pure red
+    const char* naam;         // the word in a contract, a title and the names of controls
+    int plaatje;              // picture of the suit symbol
+    base::Colour tekstkleur;  // black or pure red
 };
 const KleurGegevens& gegevens(Kleur kleur);
 
@@ -76,4 +76,4 @@ int rang_van_uitkomst(std::string_view woord);
 // What the card is called, for a screen reader: "Schoppen Aas". Empty for a code that is no card.
 std::string titel(int kaartcode);
 
-}  // namespace kaart
+}  // namespace cards

@@ -4,11 +4,12 @@
 
 #include "cards/PerPlaats.h"
 
+namespace cards {
+
 namespace {
 
 HandLijsten::PerHand per_hand(forms::Container& screen, const std::string& name) {
-    HandLijsten::PerHand lists(screen, name, kaart::kPlaatsen.front(), kaart::kPlaatsen.back(),
-                               [](int) { return forms::Rect{}; });
+    HandLijsten::PerHand lists(screen, name, kPlaatsen.front(), kPlaatsen.back(), [](int) { return forms::Rect{}; });
     lists.each([](forms::ListBox& list) {
         list.Visible = false;
         list.Sorted = true;
@@ -18,22 +19,24 @@ HandLijsten::PerHand per_hand(forms::Container& screen, const std::string& name)
 
 }  // namespace
 
-kaart::PerKleur<forms::ListBox> sorted_lists_by_suit(forms::Container& screen, const std::string& prefix) {
-    return kaart::PerKleur<forms::ListBox>([&](kaart::Kleur kleur) {
-        return forms::ListBox(screen, prefix + kaart::gegevens(kleur).naam, forms::ListBox::Order::Sorted);
+PerKleur<forms::ListBox> sorted_lists_by_suit(forms::Container& screen, const std::string& prefix) {
+    return PerKleur<forms::ListBox>([&](Kleur kleur) {
+        return forms::ListBox(screen, prefix + gegevens(kleur).naam, forms::ListBox::Order::Sorted);
     });
 }
 
 HandLijsten::HandLijsten(forms::Container& screen)
     : lstAfTavrin(screen, "lstAfTavrin"),
       lstHand(per_hand(screen, "lstHand")),
-      lstKleur([&](kaart::Kleur kleur) { return per_hand(screen, std::string("lst") + kaart::gegevens(kleur).naam); }),
+      lstKleur([&](Kleur kleur) { return per_hand(screen, std::string("lst") + gegevens(kleur).naam); }),
       lstKaarten(screen, "lstKaarten") {}
 
 void HandLijsten::vul_kaarten() {
     lstKaarten.AddItem("");
-    for (std::size_t suit = 0; suit < kaart::kKleuren.size(); ++suit) {
-        for (const std::string& word : kaart::waarde_woorden())
+    for (std::size_t suit = 0; suit < kKleuren.size(); ++suit) {
+        for (const std::string& word : waarde_woorden())
             lstKaarten.AddItem(word);
     }
 }
+
+}  // namespace cards

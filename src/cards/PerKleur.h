@@ -4,7 +4,7 @@
 
 #include "cards/Kaart.h"
 
-namespace kaart {
+namespace cards {
 
 // One of a kind for each suit.
 template <class T>
@@ -25,4 +25,4 @@ private:
     std::array<T, 4> van_;
 };
 
-}  // namespace kaart
+}  // namespace cards

@@ -7,11 +7,11 @@
 #include "base/Fout.h"
 #include "cards/Kaart.h"
 
-namespace kaart {
+namespace cards {
 
 // One of a kind for each seat, 1 Noord to 4 West. Which failure another number is, its owner says: 9 for values, 340
 // for arrays of controls or lists.
-template <class T, FoutNummer kGeenPlaats = FoutNummer::SubscriptOutOfRange>
+template <class T, base::FoutNummer kGeenPlaats = base::FoutNummer::SubscriptOutOfRange>
 class PerPlaats {
 public:
     constexpr PerPlaats(T noord, T oost, T zuid, T west)
@@ -28,7 +28,7 @@ public:
 
 private:
     static constexpr std::size_t plek(int plaats) {
-        if (plaats < 1 || plaats > 4) throw Fout(kGeenPlaats, std::to_string(plaats));
+        if (plaats < 1 || plaats > 4) throw base::Fout(kGeenPlaats, std::to_string(plaats));
         return static_cast<std::size_t>(plaats - 1);
     }
 
@@ -39,4 +39,4 @@ private:
 inline constexpr PerPlaats<const char*> kPlaatsNaam{"Noord", "Oost", "Zuid", "West"};
 inline constexpr PerPlaats<const char*> kPlaatsLetter{"N", "O", "Z", "W"};
 
-}  // namespace kaart
+}  // namespace cards

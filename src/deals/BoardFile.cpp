@@ -2,48 +2,53 @@
 
 #include <cerrno>
 #include <fstream>
+#include <stdexcept>
 #include <system_error>
 
 #include "base/Fout.h"
 #include "base/Text.h"
 #include "exchange/LinReader.h"
 #include "exchange/PbnReader.h"
+#include "platform/CodePage.h"
+#include "platform/Paths.h"
 
 namespace deals {
 
 namespace {
 
-bool looks_like_pbn(std::istream& stream) {
-    char first = 0;
-    stream >> std::ws;
-    stream.get(first);
-    const bool marked = first == '\xEF' || first == '\xFF' || first == '\xFE';  // a byte order mark
+// Nothing is taken off the stream, which may be a pipe.
+bool begins_with_letter(std::istream& stream) {
+    const int first = stream.peek();
     stream.clear();
-    stream.seekg(0);
-    return marked || first == '[' || first == '{' || first == ';' || first == '%';
+    return (first >= 'a' && first <= 'z') || (first >= 'A' && first <= 'Z');
 }
 
 template <class Reader>
-void read_all(std::istream& stream, const std::function<void(exchange::Board&)>& take) {
+void read_all(std::istream& stream, const std::string& path, const TakeBoard& take, const KnownContract& known) {
     Reader reader(stream);
-    while (auto board = reader.next())
+    bool any = false;
+    while (auto board = reader.next(known ? known() : std::nullopt)) {
         take(*board);
+        any = true;
+    }
+    if (stream.bad()) throw base::Fout(base::FoutNummer::PathAccess, platform::name_text(path));
+    if (!any) throw std::runtime_error("there are no boards in it");
 }
 
 }  // namespace
 
-void read_boards(const std::string& path, const std::function<void(exchange::Board&)>& take) {
-    std::ifstream stream(path, std::ios::binary);
-    if (!stream) throw Fout::from({errno, std::generic_category()}, path);
+void read_boards(const std::string& path, const TakeBoard& take, const KnownContract& known) {
+    std::ifstream stream(platform::path_of(path), std::ios::binary);
+    if (!stream) throw base::Fout::from({errno, std::generic_category()}, platform::name_text(path));
     stream.peek();
-    if (stream.bad()) throw Fout(FoutNummer::PathAccess, path);
+    if (stream.bad()) throw base::Fout(base::FoutNummer::PathAccess, platform::name_text(path));
     stream.clear();
-    const std::string ending = lower_case(right(path, 4));
-    const bool lin = ending == ".lin" || (ending != ".pbn" && !looks_like_pbn(stream));
+    const std::string ending = base::lower_case(base::right(path, 4));
+    const bool lin = ending == ".lin" || (ending != ".pbn" && begins_with_letter(stream));
     if (lin) {
-        read_all<exchange::LinReader>(stream, take);
+        read_all<exchange::LinReader>(stream, path, take, known);
     } else {
-        read_all<exchange::PbnReader>(stream, take);
+        read_all<exchange::PbnReader>(stream, path, take, known);
     }
 }
 

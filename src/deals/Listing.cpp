@@ -1,12 +1,12 @@
 #include "deals/Listing.h"
 
-#include <array>
-#include <cstdio>
-#include <functional>
 #include <optional>
 #include <vector>
 
-#include "base/Text.h"
+#include "deals/Json.h"
+#include "deals/Telling.h"
+#include "exchange/DealFiles.h"
+#include "exchange/PbnWriter.h"
 
 namespace deals {
 
@@ -15,25 +15,9 @@ namespace {
 using exchange::Board;
 using exchange::Place;
 
-std::string lead_of(const Board& board) {
-    return board.play && !board.play->cards.empty() ? text_of(board.play->cards.front()) : std::string();
-}
-
-std::string hands_of(const exchange::Deal& deal) {
-    std::string text = "N:";
-    for (const exchange::Seat seat : exchange::kSeats) {
-        if (seat != exchange::Seat::North) text += " ";
-        if (deal.of(seat).empty()) {
-            text += "-";
-            continue;
-        }
-        for (const exchange::Suit suit : exchange::kSuits) {
-            if (suit != exchange::Suit::Spades) text += ".";
-            for (const exchange::Card& card : deal.of(seat).cards(suit))
-                text += exchange::letter_of_rank(card.rank);
-        }
-    }
-    return text;
+std::string text_of_lead(const Board& board) {
+    const auto lead = exchange::lead_of(board);
+    return lead ? text_of(*lead) : std::string();
 }
 
 std::string contract_of(const Board& board) {
@@ -41,38 +25,7 @@ std::string contract_of(const Board& board) {
     return board.passed_out ? "P" : "";
 }
 
-// A string of JSON.
-std::string quoted(std::string_view text) {
-    std::string result = "\"";
-    for (const char character : text) {
-        if (character == '"' || character == '\\') {
-            result += '\\';
-            result += character;
-        } else if (static_cast<unsigned char>(character) < 0x20) {
-            std::array<char, 8> escaped{};
-            std::snprintf(escaped.data(), escaped.size(), "\\u%04x", static_cast<unsigned>(character));
-            result += escaped.data();
-        } else {
-            result += character;
-        }
-    }
-    return result + "\"";
-}
-
 std::string quoted_or_null(const std::string& text) { return text.empty() ? "null" : quoted(text); }
-
-template <class Items, class Text>
-std::string array_of(const Items& items, Text text) {
-    std::string result;
-    for (const auto& item : items)
-        result += (result.empty() ? "" : ",") + text(item);
-    return "[" + result + "]";
-}
-
-std::string vulnerable_of(const Board& board) {
-    static constexpr std::array kWords{"None", "NS", "EW", "All"};
-    return board.vulnerable ? kWords[static_cast<std::size_t>(*board.vulnerable)] : "";
-}
 
 std::string place_of(const Place& place) {
     switch (place.kind) {
@@ -99,14 +52,14 @@ std::string line_of(int number, const Board& board) {
         board.dealer ? std::string(1, letter_of(*board.dealer)) : "",
         contract_of(board),
         board.contract ? std::string(1, letter_of(board.contract->declarer)) : "",
-        lead_of(board),
+        text_of_lead(board),
         std::to_string(board.play ? board.play->cards.size() : 0),
         std::to_string(board.texts.size()),
     };
     std::string line;
     for (const std::string& field : fields)
-        line += (line.empty() ? "" : "\t") + replaced(field, "\t", " ");
-    return board.error ? line + "\t" + remark(*board.error) : line;
+        line += (line.empty() ? "" : "\t") + one_line(field);
+    return board.error ? line + "\t" + one_line(remark(*board.error)) : line;
 }
 
 std::string json_of(int number, const Board& board) {
@@ -117,11 +70,11 @@ std::string json_of(int number, const Board& board) {
     };
     add("board", quoted_or_null(board.board));
     add("dealer", board.dealer ? quoted(std::string(1, letter_of(*board.dealer))) : null);
-    add("vulnerable", quoted_or_null(vulnerable_of(board)));
+    add("vulnerable", board.vulnerable ? quoted(pbn_word(*board.vulnerable)) : null);
     add("contract", quoted_or_null(contract_of(board)));
     add("declarer", board.contract ? quoted(std::string(1, letter_of(board.contract->declarer))) : null);
-    add("lead", quoted_or_null(lead_of(board)));
-    add("hands", board.deal ? quoted(hands_of(*board.deal)) : null);
+    add("lead", quoted_or_null(text_of_lead(board)));
+    add("hands", board.deal ? quoted(pbn_hands(*board.deal, exchange::Seat::North)) : null);
     add("auction",
         board.auction ? array_of(board.auction->calls, [](const auto& call) { return quoted(text_of(call)); }) : null);
     add("play",

@@ -20,7 +20,10 @@ CardPreparer::CardPreparer(QtHost& host) : host_(host), next_(kLast) {
 }
 
 void CardPreparer::prepare_next() {
-    host_.pictures().pixmap({next_, {}}, host_.scale().zoom(), qGuiApp->devicePixelRatio());
+    const forms::Picture picture{next_, {}};
+    const double ratio = qGuiApp->devicePixelRatio();
+    const QSizeF size = host_.pictures().size_of(picture) * host_.table_zoom() * ratio;
+    host_.pictures().pixmap(picture, size.toSize(), ratio);
     if (--next_ < kFirst) stop();
 }
 

@@ -5,7 +5,6 @@
 #include <QScopedValueRollback>
 #include <algorithm>
 
-#include "desktop/KeyCodes.h"
 #include "desktop/QtHost.h"
 #include "desktop/Text.h"
 #include "desktop/Ticker.h"
@@ -17,7 +16,15 @@
 
 namespace desktop {
 
-FormWindow::FormWindow(QtHost& host, forms::Form& form) : host_(host), form_(form) {
+namespace {
+
+constexpr QSize kLeastSize{480, 320};  // of the table that is not maximised
+// A window manager gives a maximised window a few pixels more or fewer than the display has without a title.
+constexpr double kNearly = 0.99;
+
+}  // namespace
+
+FormWindow::FormWindow(QtHost& host, forms::Form& form) : host_(host), form_(form), scale_(host.zoom_of(form)) {
     Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                             Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint;
     if (form.is_sizable()) flags |= Qt::WindowMaximizeButtonHint;
@@ -53,9 +60,9 @@ void FormWindow::flush() {
         built_ = true;
         show_controls(form_);
     }
-    if (tab_stops_changed_) order_tab_stops();
     if (changes.form) show_form();
-    give_focus();
+    keyboard_.follow();
+    say();
 }
 
 FormWindow::Shown FormWindow::show_control(forms::Control& control) {
@@ -74,7 +81,7 @@ FormWindow::Shown FormWindow::show_control(forms::Control& control) {
     views::View& added = *views_.emplace(&control, std::move(made)).first->second;
     if (auto* container = dynamic_cast<forms::Container*>(&control)) show_controls(*container);
     added.refresh();
-    if (added.widget().focusPolicy() & Qt::TabFocus) tab_stops_changed_ = true;
+    keyboard_.added(added);
     return Shown::New;
 }
 
@@ -85,7 +92,7 @@ void FormWindow::show_controls(const forms::Container& container) {
 
 QWidget* FormWindow::surface(const forms::Container& container) {
     const forms::Control* control = const_cast<forms::Container&>(container).as_control();
-    if (!control) return this;
+    if (!control) return &canvas_;
     const views::View* shown = view(*control);
     return shown ? &shown->widget() : nullptr;
 }
@@ -122,17 +129,6 @@ void FormWindow::restack(const forms::Container& container) {
     }
 }
 
-void FormWindow::order_tab_stops() {
-    tab_stops_changed_ = false;
-    QWidget* previous = nullptr;
-    for (const forms::Control* control : form_.controls()) {
-        const views::View* shown = view(*control);
-        if (!shown || !(shown->widget().focusPolicy() & Qt::TabFocus)) continue;
-        if (previous) setTabOrder(previous, &shown->widget());
-        previous = &shown->widget();
-    }
-}
-
 void FormWindow::show_form() {
     setWindowTitle(to_qt(form_.Caption()));
     QPalette colours = palette();
@@ -142,6 +138,7 @@ void FormWindow::show_form() {
     }
     show_pointer();
     show_place();
+    place_canvas();
 }
 
 void FormWindow::show_pointer() {
@@ -154,12 +151,50 @@ void FormWindow::show_pointer() {
     }
 }
 
+QRect FormWindow::form_place() const {
+    const QPoint corner = host_.screen_corner();
+    return {scale_.pixels(form_.Left) + corner.x(), scale_.pixels(form_.Top) + corner.y(), scale_.pixels(form_.Width),
+            scale_.pixels(form_.Height)};
+}
+
+// A maximised form that the window manager gives another size stands in the middle.
+void FormWindow::place_canvas() {
+    QRect place({}, form_place().size());
+    if (zooms_along()) place.moveCenter(rect().center());
+    canvas_.setGeometry(place);
+}
+
+bool FormWindow::zooms_along() const {
+    return form_.WindowState() == forms::WindowState::Maximised && !form_.is_sizable();
+}
+
+double FormWindow::zoom_for_size() const {
+    const double usual = host_.zoom_of(form_);
+    const double fitting = host_.zooms().of_table(size());
+    return fitting > usual * kNearly ? usual : fitting;
+}
+
+void FormWindow::set_zoom(double zoom) {
+    if (zoom == scale_.zoom()) return;
+    const QPoint middle = frameGeometry().center();
+    const QSize frame = frameGeometry().size() - size();
+    scale_ = Scale(zoom);
+    if (form_.WindowState() == forms::WindowState::Normal) {
+        shown_place_ = form_place();
+        QRect place({}, shown_place_.size() + frame);
+        place.moveCenter(middle);
+        move(host_.nearest_place(place.topLeft(), shown_place_.size()));
+        form_.is_sizable() ? resize(shown_place_.size()) : setFixedSize(shown_place_.size());
+    }
+    place_canvas();
+    for (const auto& [control, shown] : views_)
+        shown->refresh();
+    keyboard_.show_mark();
+}
+
 // Where the form did not move, the window stays where the user put it.
 void FormWindow::show_place() {
-    const Scale& scale = host_.scale();
-    const QPoint corner = host_.screen_corner();
-    const QRect place(scale.pixels(form_.Left) + corner.x(), scale.pixels(form_.Top) + corner.y(),
-                      scale.pixels(form_.Width), scale.pixels(form_.Height));
+    const QRect place = form_place();
     const forms::WindowState state = form_.WindowState();
     const bool state_changed = state != shown_state_ || !form_.Visible() || isHidden();
     shown_state_ = state;
@@ -172,7 +207,7 @@ void FormWindow::show_place() {
         }
         shown_place_ = place;
     } else if (!form_.is_sizable()) {
-        setMinimumSize(0, 0);
+        setMinimumSize(kLeastSize);
         setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
         // Nearly what the window manager is about to give it, so that it need not be painted twice.
         if (isHidden()) resize(place.size());
@@ -192,18 +227,16 @@ void FormWindow::show_place() {
     }
 }
 
-// A control that cannot have it now leaves it with nobody: the widget that Qt goes on to was chosen by no one.
-void FormWindow::give_focus() {
-    if (!form_.focus()) return;
-    const views::View* shown = view(*form_.focus());
-    QWidget* wanted = shown ? &shown->widget() : nullptr;
-    if (wanted && !(wanted->isVisibleTo(this) && wanted->isEnabledTo(this))) wanted = nullptr;
-    if (focusWidget() == wanted) return;
-    if (wanted) {
-        wanted->setFocus(Qt::OtherFocusReason);
-    } else {
-        focusWidget()->clearFocus();
-    }
+void FormWindow::announce(const QString& words) {
+    if (!words.isEmpty()) to_say_ << words;
+    if (!flushing_) say();
+}
+
+void FormWindow::say() {
+    if (to_say_.isEmpty()) return;
+    QWidget* listening = focusWidget() ? focusWidget() : this;
+    listening->setAccessibleDescription(to_say_.join(QStringLiteral(". ")));
+    to_say_.clear();
 }
 
 void FormWindow::retire() {
@@ -223,6 +256,7 @@ bool FormWindow::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate && !retired_) host_.activated(*this);
     const bool taken = QWidget::event(event);
     if (event->type() == QEvent::Paint) host_.painted();
+    if (event->type() == QEvent::ActivationChange) keyboard_.show_mark();
     return taken;
 }
 
@@ -233,34 +267,20 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 
 void FormWindow::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    if (retired_ || !form_.is_sizable() || !event->spontaneous()) return;
-    const Scale& scale = host_.scale();
-    const bool same = scale.pixels(form_.Width) == width() && scale.pixels(form_.Height) == height();
-    if (!same) act([&] { forms::user::resize(form_, scale.twips(width()), scale.twips(height())); });
-}
-
-// A release counts only where its press was seen: the Escape that closed a message box is none of the form's.
-bool FormWindow::key_event(const QWidget& receiver, const QKeyEvent& event) {
-    const QWidget* first = focusWidget() ? focusWidget() : this;
-    if (&receiver != first || event.isAutoRepeat() || retired_) return false;
-    if (event.type() == QEvent::KeyPress) {
-        keys_down_.insert(event.key());
-        if (event.key() != Qt::Key_F1) return false;
-        act([this] { forms::user::help(form_); });
-        return true;
-    }
-    if (keys_down_.erase(event.key()) == 0) return false;
-    const int code = virtual_key(event.key());
-    if (code != 0) act([&] { forms::user::key(form_, code); });
-    return retired_;
+    if (retired_) return;
+    if (zooms_along()) set_zoom(zoom_for_size());
+    place_canvas();
+    if (!form_.is_sizable() || !event->spontaneous()) return;
+    const bool same = scale_.pixels(form_.Width) == width() && scale_.pixels(form_.Height) == height();
+    if (!same) act([&] { forms::user::resize(form_, scale_.twips(width()), scale_.twips(height())); });
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
-    if (!key_event(*this, *event)) QWidget::keyPressEvent(event);
+    if (!keyboard_.key_event(*this, *event)) QWidget::keyPressEvent(event);
 }
 
 void FormWindow::keyReleaseEvent(QKeyEvent* event) {
-    if (!key_event(*this, *event)) QWidget::keyReleaseEvent(event);
+    if (!keyboard_.key_event(*this, *event)) QWidget::keyReleaseEvent(event);
 }
 
 }  // namespace desktop

@@ -1,15 +1,14 @@
 #pragma once
 
+#include <QStringList>
 #include <QWidget>
 #include <functional>
 #include <memory>
-#include <set>
 #include <unordered_map>
 
 #include "desktop/Look.h"
+#include "desktop/keys/Keyboard.h"
 #include "forms/Form.h"
-
-class QKeyEvent;
 
 namespace forms {
 class Timer;
@@ -32,6 +31,9 @@ public:
     ~FormWindow() override;
 
     QtHost& host() const { return host_; }
+    const Scale& scale() const { return scale_; }
+    // Shows the form larger or smaller, about its middle.
+    void set_zoom(double zoom);
     forms::Form& form() const { return form_; }
 
     // Brings the window up to the form.
@@ -44,8 +46,11 @@ public:
 
     // Runs what the user did as an event of the core, unless the core takes none now.
     void act(const std::function<void()>& event);
-    // Tells the form of the key; true if its widget shall not see it any more.
-    bool key_event(const QWidget& receiver, const QKeyEvent& event);
+    keys::Keyboard& keyboard() { return keyboard_; }
+    const keys::Keyboard& keyboard() const { return keyboard_; }
+
+    // Has a screen reader say it: as a description of what has the keyboard, which is what readers listen to.
+    void announce(const QString& words);
 
     // The view of a control; null as long as it has none.
     views::View* view(const forms::Control& control) const;
@@ -67,21 +72,27 @@ private:
     void show_place();
     void show_timer(forms::Timer& timer);
     void restack(const forms::Container& container);
-    void order_tab_stops();
-    void give_focus();
+    void say();
     QWidget* surface(const forms::Container& container);
+
+    void place_canvas();
+    QRect form_place() const;      // where the form wants its window
+    bool zooms_along() const;      // the form cannot change its size, though the window can
+    double zoom_for_size() const;  // at which the form fits the window
 
     QtHost& host_;
     forms::Form& form_;
+    Scale scale_;
+    QWidget canvas_{this};  // has the form's size: what lies outside it is not seen
+    keys::Keyboard keyboard_{*this, canvas_};
     std::unordered_map<const forms::Control*, std::unique_ptr<views::View>> views_;
     std::unordered_map<const forms::Timer*, std::unique_ptr<Ticker>> tickers_;
-    std::set<int> keys_down_;
+    QStringList to_say_;  // while the window is brought up to the form, and the keyboard with it
     QRect shown_place_;
     forms::MousePointer shown_pointer_ = forms::MousePointer::Default;
     forms::WindowState shown_state_ = forms::WindowState::Normal;
     bool built_ = false;
     bool flushing_ = false;
-    bool tab_stops_changed_ = false;
     bool retired_ = false;
 };
 

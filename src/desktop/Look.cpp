@@ -26,10 +26,13 @@ int Scale::pixels(double twips) const { return static_cast<int>(std::lround(twip
 double Scale::twips(int pixels) const { return pixels * forms::kTwipsPerPixel / zoom_; }
 
 QRect Scale::rect(const forms::Control& control) const {
-    return {pixels(control.Left), pixels(control.Top), pixels(control.Width), pixels(control.Height)};
+    return rect({control.Left, control.Top, control.Width, control.Height});
+}
+QRect Scale::rect(const forms::Rect& place) const {
+    return {pixels(place.left), pixels(place.top), pixels(place.width), pixels(place.height)};
 }
 
-QColor colour(Colour colour) { return {colour.red(), colour.green(), colour.blue()}; }
+QColor colour(base::Colour colour) { return {colour.red(), colour.green(), colour.blue()}; }
 
 QFont screen_font(double points, bool bold, double zoom) {
     QFont font(family());

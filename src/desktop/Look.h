@@ -21,12 +21,13 @@ public:
     double twips(int pixels) const;
     // Two controls of one size keep one size wherever they stand.
     QRect rect(const forms::Control& control) const;
+    QRect rect(const forms::Rect& place) const;
 
 private:
     double zoom_;
 };
 
-QColor colour(Colour colour);
+QColor colour(base::Colour colour);
 
 // Verdana where it is installed, otherwise DejaVu Sans; sized as at 96 dpi whatever the screen's own value is.
 QFont screen_font(double points, bool bold, double zoom);

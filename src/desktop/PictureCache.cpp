@@ -12,12 +12,12 @@ namespace desktop {
 
 namespace {
 
-QPointF point(resources::Point point) { return {point.x, point.y}; }
+QPointF point(resources::drawing::Point point) { return {point.x, point.y}; }
 
-QPainterPath painter_path(const resources::Shape& shape) {
-    using Verb = resources::Path::Verb;
+QPainterPath painter_path(const resources::drawing::Shape& shape) {
+    using Verb = resources::drawing::Path::Verb;
     QPainterPath path;
-    path.setFillRule(shape.rule == resources::FillRule::EvenOdd ? Qt::OddEvenFill : Qt::WindingFill);
+    path.setFillRule(shape.rule == resources::drawing::FillRule::EvenOdd ? Qt::OddEvenFill : Qt::WindingFill);
     auto next = shape.path.points().begin();
     for (const Verb verb : shape.path.verbs()) {
         switch (verb) {
@@ -39,9 +39,9 @@ QPainterPath painter_path(const resources::Shape& shape) {
     return path;
 }
 
-void paint(QPainter& painter, const resources::Drawing& drawing) {
+void paint(QPainter& painter, const resources::drawing::Drawing& drawing) {
     painter.setRenderHint(QPainter::Antialiasing);
-    for (const resources::Shape& shape : drawing.shapes) {
+    for (const resources::drawing::Shape& shape : drawing.shapes) {
         painter.setBrush(shape.fill ? QBrush(colour(*shape.fill)) : QBrush(Qt::NoBrush));
         if (shape.stroke) {
             painter.setPen(
@@ -57,12 +57,12 @@ void paint(QPainter& painter, const resources::Drawing& drawing) {
 
 // Null for a picture that does not exist: what is shown is then nothing, as the failure was reported where the
 // picture was asked for.
-const resources::Drawing* PictureCache::drawing_of(const forms::Picture& picture) {
+const resources::drawing::Drawing* PictureCache::drawing_of(const forms::Picture& picture) {
     if (picture.empty()) return nullptr;
     const std::pair key{picture.number, picture.name};
     if (const auto found = drawings_.find(key); found != drawings_.end()) return &found->second;
     try {
-        resources::Drawing made =
+        resources::drawing::Drawing made =
             picture.number > 0 ? resources::draw_picture(picture.number) : resources::draw_named_picture(picture.name);
         return &drawings_.emplace(key, std::move(made)).first->second;
     } catch (const std::exception&) {
@@ -71,24 +71,21 @@ const resources::Drawing* PictureCache::drawing_of(const forms::Picture& picture
 }
 
 QSizeF PictureCache::size_of(const forms::Picture& picture) {
-    const resources::Drawing* drawing = drawing_of(picture);
+    const resources::drawing::Drawing* drawing = drawing_of(picture);
     return drawing ? QSizeF(drawing->width, drawing->height) : QSizeF();
 }
 
-QPixmap PictureCache::pixmap(const forms::Picture& picture, double scale, double pixel_ratio) {
-    const QSizeF size = size_of(picture) * scale * pixel_ratio;
-    if (size.isEmpty()) return {};
-    const Key key{picture.number, picture.name, static_cast<int>(std::lround(size.width())),
-                  static_cast<int>(std::lround(size.height()))};
+QPixmap PictureCache::pixmap(const forms::Picture& picture, const QSize& physical, double pixel_ratio) {
+    const resources::drawing::Drawing* drawing = drawing_of(picture);
+    if (!drawing || physical.isEmpty()) return {};
+    const Key key{picture.number, picture.name, physical.width(), physical.height(), pixel_ratio};
     const auto found = pixmaps_.find(key);
     if (found != pixmaps_.end()) return found->second;
-    return pixmaps_[key] = render(*drawing_of(picture), scale, pixel_ratio);
+    return pixmaps_[key] = render(*drawing, physical, pixel_ratio);
 }
 
-QPixmap PictureCache::render(const resources::Drawing& drawing, double scale, double pixel_ratio) {
-    const double factor = scale * pixel_ratio;
-    QPixmap pixmap(std::max(1, static_cast<int>(std::lround(drawing.width * factor))),
-                   std::max(1, static_cast<int>(std::lround(drawing.height * factor))));
+QPixmap PictureCache::render(const resources::drawing::Drawing& drawing, const QSize& physical, double pixel_ratio) {
+    QPixmap pixmap(physical);
     pixmap.fill(Qt::transparent);
     {
         QPainter painter(&pixmap);

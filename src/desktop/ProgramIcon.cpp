@@ -13,15 +13,15 @@ constexpr int kHalfOpaque = 128;
 
 QRgb palette_pixel(QRgb pixel) {
     if (qAlpha(pixel) < kHalfOpaque) return qRgba(0, 0, 0, 0);
-    const Colour exact = Colour::rgb(static_cast<unsigned>(qRed(pixel)), static_cast<unsigned>(qGreen(pixel)),
-                                     static_cast<unsigned>(qBlue(pixel)));
+    const base::Colour exact = base::Colour::rgb(
+        static_cast<unsigned>(qRed(pixel)), static_cast<unsigned>(qGreen(pixel)), static_cast<unsigned>(qBlue(pixel)));
     return colour(resources::icon_palette_colour(exact)).rgb();
 }
 
 }  // namespace
 
 QImage icon_image(int size, int depth) {
-    QImage image = PictureCache::render(resources::draw_icon(size), 1, 1).toImage();
+    QImage image = PictureCache::render(resources::draw_icon(size), QSize(size, size), 1).toImage();
     image.convertTo(QImage::Format_ARGB32);
     if (depth > kLowDepth) return image;
     QImage low(image.size(), QImage::Format_Indexed8);

@@ -16,24 +16,25 @@ namespace desktop {
 
 namespace {
 
-constexpr int kUsualTitleHeight = 30;
-// What the table with its row of buttons needs, logical pixels.
-constexpr double kNeededWidth = 1290;
-constexpr double kNeededHeight = 784;
+constexpr QSize kUsualFrame{2, 30};
 // How long a window manager may take to activate the window that was asked for.
 constexpr int kActivationMilliseconds = 1000;
 
 QRect usable_screen() { return QGuiApplication::primaryScreen()->availableGeometry(); }
 
-double fitting_zoom() {
-    const QRect screen = usable_screen();
-    return std::min({1.0, screen.width() / kNeededWidth, (screen.height() - kUsualTitleHeight) / kNeededHeight});
-}
-
 }  // namespace
 
-QtHost::QtHost(std::optional<double> zoom) : scale_(zoom ? *zoom : fitting_zoom()), title_height_(kUsualTitleHeight) {
+QtHost::QtHost(std::optional<double> zoom) : zooms_(zoom), frame_(kUsualFrame) {
     first_painted_.setSingleShot(true);
+    input_.Changed = [this] {
+        for (const auto& [form, window] : form_windows_)
+            window->keyboard().show_mark();
+    };
+    input_.Pressed = [this](const QWidget& widget) {
+        for (const auto& [form, window] : form_windows_) {
+            if (widget.window() == window.get()) window->keyboard().let_go();
+        }
+    };
 }
 
 QtHost::~QtHost() {
@@ -43,10 +44,26 @@ QtHost::~QtHost() {
 
 QPoint QtHost::screen_corner() const { return usable_screen().topLeft(); }
 
-// Without the title, so that a maximised form has the size that it is told.
-forms::Size QtHost::screen_size() const {
+QSize QtHost::largest_inner_area() const { return usable_screen().size() - frame_; }
+
+QPoint QtHost::nearest_place(const QPoint& corner, const QSize& inner) const {
     const QRect screen = usable_screen();
-    return {scale_.twips(screen.width()), scale_.twips(screen.height() - title_height_)};
+    const QPoint last =
+        screen.bottomRight() + QPoint(1, 1) - QPoint((inner + frame_).width(), (inner + frame_).height());
+    return {std::max(screen.left(), std::min(corner.x(), last.x())),
+            std::max(screen.top(), std::min(corner.y(), last.y()))};
+}
+
+// Without the title, so that a maximised form has the size that it is told.
+forms::Size QtHost::screen_size(const forms::Form& form) const {
+    const Scale scale(zoom_of(form));
+    const QSize inner = largest_inner_area();
+    return {scale.twips(inner.width()), scale.twips(inner.height())};
+}
+
+void QtHost::change_zoom(FormWindow& window, Zooms::Step step) {
+    zooms_.take(step, window.form(), largest_inner_area());
+    window.set_zoom(zoom_of(window.form()));
 }
 
 void QtHost::act(const std::function<void()>& event) {
@@ -157,9 +174,9 @@ void QtHost::painted() {
 // A window manager answers late: a window that was the active one for a moment, on the way to the one that was asked
 // for, was not brought in front by the user.
 void QtHost::activated(FormWindow& window) {
-    if (window.frameGeometry().height() > window.height()) {
-        title_height_ = window.frameGeometry().height() - window.height();
-    }
+    // A maximised window may have no borders, and one that is not managed has no frame at all.
+    const QSize frame = window.frameGeometry().size() - window.size();
+    if (frame.height() > 0 && !window.isMaximized()) frame_ = frame;
     if (&window == raised_) {
         raised_since_.invalidate();
         return;

@@ -13,6 +13,8 @@
 
 #include "desktop/Look.h"
 #include "desktop/PictureCache.h"
+#include "desktop/Zoom.h"
+#include "desktop/keys/InputWatch.h"
 #include "forms/Windows.h"
 
 namespace desktop {
@@ -22,14 +24,14 @@ class FormWindow;
 // Carries the forms in real windows. Needs a QApplication; is destroyed before it.
 class QtHost final : public forms::Host {
 public:
-    // Without a zoom of its own: 1, or as much less as the table needs to fit the screen.
+    // With a zoom every form has it; see Zooms.
     explicit QtHost(std::optional<double> zoom = {});
     ~QtHost() override;
 
     // Whose windows it carries; without it, those of the first dispatch that ends.
     void attach(forms::Windows& windows) { windows_ = &windows; }
 
-    forms::Size screen_size() const override;
+    forms::Size screen_size(const forms::Form& form) const override;
     void dispatch_ended(forms::Windows& windows) override;
     void repaint(forms::Form& form) override;
     void closing(forms::Form& form) override;
@@ -48,9 +50,16 @@ public:
     // Its timeout comes once, when the first window has been painted: what can wait for that waits for it.
     QTimer& first_painted() { return first_painted_; }
 
-    const Scale& scale() const { return scale_; }
+    Zooms& zooms() { return zooms_; }
+    // How large a form is shown, and the cards of the table.
+    double zoom_of(const forms::Form& form) const { return zooms_.of(form, largest_inner_area()); }
+    double table_zoom() const { return zooms_.of_table(largest_inner_area()); }
+    void change_zoom(FormWindow& window, Zooms::Step step);
     PictureCache& pictures() { return pictures_; }
+    const keys::InputWatch& input() const { return input_; }
     QPoint screen_corner() const;  // of the part of the screen that windows may use
+    // Where a window of that inner size stands wholly on the screen, as near as can be to a corner for its frame.
+    QPoint nearest_place(const QPoint& corner, const QSize& inner) const;
 
     // Runs what the user did. Nothing happens while an event is running.
     void act(const std::function<void()>& event);
@@ -77,13 +86,15 @@ private:
     };
     using OwnedWindow = std::unique_ptr<FormWindow, DeleteLater>;
 
+    QSize largest_inner_area() const;  // of a window with its title, logical pixels
     void raise_active();
     void close_retired();
 
     // The fonts are looked through while the program sets up its folders and asks the network.
     std::future<void> font_ = std::async(std::launch::async, find_screen_font);
-    Scale scale_;
+    Zooms zooms_;
     PictureCache pictures_;
+    keys::InputWatch input_;
     forms::Windows* windows_ = nullptr;
     std::unordered_map<const forms::Form*, OwnedWindow> form_windows_;
     std::vector<OwnedWindow> retired_;  // of forms that are gone, as long as they are seen
@@ -94,7 +105,7 @@ private:
     QTimer first_painted_;
     bool a_window_was_painted_ = false;
     bool within_event_ = false;
-    mutable int title_height_;  // what the window manager adds above a window
+    QSize frame_;  // what the window manager adds around a window, title and borders
 };
 
 }  // namespace desktop

@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QStyleOption>
 #include <algorithm>
+#include <cmath>
 
 #include "desktop/Look.h"
 
@@ -10,12 +11,14 @@ namespace desktop {
 
 namespace {
 
-// In pixels; three arrows high, there would be no room for a slider between the two.
-constexpr int kLowest = 48;
+// Heights to a width: below it there would be no room for a slider between the two arrows.
+constexpr double kLowest = 2.6;
+// Of a tick box to the letters beside it.
+constexpr double kTickToFont = 13.0 / 11;
 
 bool is_low_scroll_bar(QStyle::ComplexControl control, const QStyleOptionComplex& option) {
     return control == QStyle::CC_ScrollBar && option.rect.height() >= option.rect.width() &&
-           option.rect.height() < kLowest;
+           option.rect.height() < kLowest * option.rect.width();
 }
 
 }  // namespace
@@ -58,9 +61,9 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
 }
 
 int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
-    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
     const bool tick = metric == PM_IndicatorWidth || metric == PM_IndicatorHeight;
-    return tick && qobject_cast<const QCheckBox*>(widget) ? std::min(usual, widget->height()) : usual;
+    if (!tick || !qobject_cast<const QCheckBox*>(widget)) return QProxyStyle::pixelMetric(metric, option, widget);
+    return std::min(static_cast<int>(std::lround(widget->font().pixelSize() * kTickToFont)), widget->height());
 }
 
 QPalette Style::colours() {

@@ -6,8 +6,23 @@
 
 namespace desktop {
 
-QString to_qt(std::string_view text) { return QString::fromStdString(to_utf8(text)); }
-std::string from_qt(const QString& text) { return from_utf8(text.toStdString()); }
+QString to_qt(std::string_view text) { return QString::fromStdString(platform::to_utf8(text)); }
+std::string from_qt(const QString& text) { return platform::from_utf8(text.toStdString()); }
+
+std::string typed_text(QString text) {
+    constexpr struct {
+        char16_t full;
+        char16_t hollow;
+        char16_t letter;
+    } kSuits[] = {{u'\u2660', u'\u2664', u'S'},
+                  {u'\u2665', u'\u2661', u'H'},
+                  {u'\u2666', u'\u2662', u'R'},
+                  {u'\u2663', u'\u2667', u'K'}};
+    for (const auto& suit : kSuits)
+        text.replace(QChar(suit.full), QChar(suit.letter)).replace(QChar(suit.hollow), QChar(suit.letter));
+    // Phones and browsers write behind a symbol which of its two pictures they mean.
+    return from_qt(text.remove(QChar(u'\uFE0E')).remove(QChar(u'\uFE0F')));
+}
 
 BoxText::BoxText(std::string_view text, bool multi_line) {
     std::string kept;

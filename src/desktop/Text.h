@@ -11,6 +11,8 @@ namespace desktop {
 QString to_qt(std::string_view text);
 // What Windows-1252 cannot hold becomes "?".
 std::string from_qt(const QString& text);
+// The same of what a user put in: the symbol of a suit is its Dutch letter.
+std::string typed_text(QString text);
 
 // The text of a box with the marks that a text widget cannot hold left out: a line break is one "\n", in a box of one
 // line there is none, and every other control character is gone.

@@ -9,6 +9,16 @@ inline constexpr QLatin1StringView kProgram("Zandolin Lomert");
 inline constexpr QLatin1StringView kYes("&Ja");
 inline constexpr QLatin1StringView kNo("&Nee");
 inline constexpr QLatin1StringView kOk("OK");
+// For a screen reader: the strain without trump, and the states of a marker.
+inline constexpr QLatin1StringView kNoTrump("Sans atout");
+inline constexpr QLatin1StringView kWithText("met tekst");
+inline constexpr QLatin1StringView kWithoutText("zonder tekst");
+inline constexpr QLatin1StringView kInWork("wordt geschreven");
+// %1 is the number of characters that a box takes.
+inline constexpr QLatin1StringView kBoxIsFull("Er passen %1 tekens in deze tekst; hij is nu vol.");
+// %1 is what went wrong.
+inline constexpr QLatin1StringView kNoProgramFolder(
+    "De map \"Zandolin Lomert\" in uw persoonlijke map kan niet worden gemaakt:\n\n%1");
 // %1 is the file.
 inline constexpr QLatin1StringView kNoHelpViewer("Er is geen programma gevonden dat de handleiding kan openen:\n\n%1");
 

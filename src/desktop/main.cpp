@@ -5,8 +5,11 @@
 #include <QScreen>
 #include <cstdlib>
 #include <exception>
+#include <optional>
+#include <string>
 
 #include "app/Start.h"
+#include "desktop/Accessible.h"
 #include "desktop/CardPreparer.h"
 #include "desktop/ProgramIcon.h"
 #include "desktop/QtHost.h"
@@ -15,11 +18,12 @@
 #include "desktop/Words.h"
 #include "desktop/system/QtPlatform.h"
 #include "platform/Paths.h"
+#include "platform/ProgramFolder.h"
 #include "services/Programma.h"
 
 namespace {
 
-// The folder given, or none.
+// The folder given, or the one that this copy of the program has.
 std::string program_folder(const QApplication& application) {
     QCommandLineParser parser;
     parser.setApplicationDescription(desktop::words::kProgram);
@@ -29,7 +33,19 @@ std::string program_folder(const QApplication& application) {
     parser.addOption(folder);
     parser.process(application);
     const QString given = parser.value(folder);
-    return given.isEmpty() ? std::string() : path_text(QDir(given).absolutePath().toStdString());
+    return given.isEmpty() ? platform::find_program_folder()
+                           : platform::path_text(QDir(given).absolutePath().toStdString());
+}
+
+// Where the folder could not be made, the program has nothing to work on.
+std::optional<std::string> folder_or_box(const QApplication& application) {
+    try {
+        return program_folder(application);
+    } catch (const std::exception& failure) {
+        QMessageBox::critical(nullptr, desktop::words::kProgram,
+                              QString(desktop::words::kNoProgramFolder).arg(desktop::to_qt(failure.what())));
+        return std::nullopt;
+    }
 }
 
 // A failure that no routine catches ends the program with its plain text.
@@ -43,22 +59,27 @@ void end_by_failure(const std::string& what) {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setStyle(new desktop::Style);
+    desktop::describe_widgets();
     QApplication::setPalette(desktop::Style::colours());
     QApplication::setApplicationName(desktop::words::kProgram);
+    QApplication::setDesktopFileName(QStringLiteral("zandolin"));
     QApplication::setQuitOnLastWindowClosed(false);
 
+    const std::optional<std::string> folder = folder_or_box(application);
+    if (!folder) return EXIT_FAILURE;
     desktop::QtHost host;
     QObject::connect(&host.first_painted(), &QTimer::timeout, [] {
         QApplication::setWindowIcon(desktop::program_icon(QGuiApplication::primaryScreen()->depth()));
     });
     const desktop::CardPreparer preparer(host);
-    desktop::system::QtPlatform platform(host, program_folder(application));
-    Programma programma(platform, host);
+    desktop::system::QtPlatform platform(host, *folder, services::settings_file(*folder));
+    host.zooms().keep_in(services::settings_file(*folder));
+    services::Programma programma(platform, host);
     host.attach(programma.windows);
     host.Ended = [] { QCoreApplication::quit(); };
     host.Failed = end_by_failure;
     try {
-        start(programma);
+        app::start(programma);
     } catch (const std::exception& failure) {
         end_by_failure(failure.what());
         return EXIT_FAILURE;

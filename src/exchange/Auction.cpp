@@ -61,7 +61,7 @@ private:
             case Call::Kind::Pass:
                 return {};
             case Call::Kind::Bid:
-                return opened_ && call.bid <= bid_ ? "not above " + text_of(Call::of(bid_)) : "";
+                return opened_ && !call.bid.is_above(bid_) ? "not above " + text_of(Call::of(bid_)) : "";
             case Call::Kind::Double:
                 return !opened_ || own || doubling_ != Doubling::None ? "nothing to double" : "";
             case Call::Kind::Redouble:
@@ -96,9 +96,9 @@ std::optional<Suit> trump_of(Strain strain) {
 std::string text_of(Strain strain) { return {kStrainLetters[static_cast<std::size_t>(strain)]}; }
 
 std::optional<Strain> strain_of(std::string_view text) {
-    if (equal_ignoring_case(text, "NT") || equal_ignoring_case(text, "SA")) return Strain::NoTrump;
+    if (base::equal_ignoring_case(text, "NT") || base::equal_ignoring_case(text, "SA")) return Strain::NoTrump;
     if (text.size() != 1) return std::nullopt;
-    const std::size_t found = kStrainLetters.find(upper_case(text)[0]);
+    const std::size_t found = kStrainLetters.find(base::upper_case(text)[0]);
     if (found == std::string_view::npos) return std::nullopt;
     return static_cast<Strain>(found);
 }
@@ -119,18 +119,29 @@ std::string text_of(const Call& call) {
 
 std::optional<Call> call_of(std::string_view text) {
     for (const auto& [word, kind] : kWords) {
-        if (equal_ignoring_case(text, word)) return Call{kind, {}};
+        if (base::equal_ignoring_case(text, word)) return Call{kind, {}};
     }
     if (text.size() < 2 || text[0] < '1' || text[0] > '0' + kHighestLevel) return std::nullopt;
     const auto strain = strain_of(text.substr(1));
     return strain ? std::optional(Call::of({text[0] - '0', *strain})) : std::nullopt;
 }
 
-std::string text_of(const Contract& contract) {
-    const char* const doubling = contract.doubling == Doubling::None      ? ""
-                                 : contract.doubling == Doubling::Doubled ? "X"
-                                                                          : "XX";
-    return text_of(Call::of(contract.bid)) + doubling;
+std::string text_of(Doubling doubling) { return std::string(static_cast<std::size_t>(doubling), 'X'); }
+
+std::string text_of(const Contract& contract) { return text_of(Call::of(contract.bid)) + text_of(contract.doubling); }
+
+std::optional<Contract> contract_of(std::string_view text, Seat declarer) {
+    const std::string whole = base::upper_case(base::replaced(text, " ", ""));
+    if (whole.size() < 2) return std::nullopt;
+    const std::string behind_level = whole.substr(1);
+    const std::size_t strain = behind_level.starts_with("NT") || behind_level.starts_with("SA") ? 2 : 1;
+    const auto bid = call_of(whole.substr(0, 1 + strain));
+    if (!bid || bid->kind != Call::Kind::Bid) return std::nullopt;
+    const std::string rest = behind_level.substr(strain);
+    if (rest.empty()) return Contract{bid->bid, Doubling::None, declarer};
+    if (rest == "X" || rest == "D" || rest == "*") return Contract{bid->bid, Doubling::Doubled, declarer};
+    const bool redoubled = rest == "XX" || rest == "R" || rest == "DR" || rest == "**";
+    return redoubled ? std::optional(Contract{bid->bid, Doubling::Redoubled, declarer}) : std::nullopt;
 }
 
 bool Auction::over() const { return follow(*this).over(); }
@@ -147,17 +158,36 @@ std::string Auction::problem() const {
     return {};
 }
 
+bool Auction::drop_superfluous_passes() {
+    const std::size_t length = calls.size();
+    Auction shorter = *this;
+    while (!shorter.calls.empty() && shorter.calls.back() == Call::pass()) {
+        shorter.calls.pop_back();
+        if (shorter.over()) calls = shorter.calls;
+    }
+    return calls.size() < length;
+}
+
+std::optional<Seat> Auction::first_to_name(Strain strain, Seat side) const {
+    for (std::size_t number = 0; number < calls.size(); ++number) {
+        const bool named = calls[number].kind == Call::Kind::Bid && calls[number].bid.strain == strain;
+        if (named && same_side(caller(number), side)) return caller(number);
+    }
+    return std::nullopt;
+}
+
 std::optional<Contract> Auction::contract() const {
     const Bidding bidding = follow(*this);
     if (!bidding.opened()) return std::nullopt;
-    for (std::size_t number = 0; number < calls.size(); ++number) {
-        const Call& call = calls[number];
-        const bool named = call.kind == Call::Kind::Bid && call.bid.strain == bidding.bid().strain;
-        if (named && same_side(caller(number), bidding.bidder())) {
-            return Contract{bidding.bid(), bidding.doubling(), caller(number)};
-        }
-    }
-    return std::nullopt;
+    const auto declarer = first_to_name(bidding.bid().strain, bidding.bidder());
+    return Contract{bidding.bid(), bidding.doubling(), *declarer};
+}
+
+bool Auction::may_end_in(const Contract& end) const {
+    const auto now = contract();
+    if (now && now->bid == end.bid) return now->declarer == end.declarer;
+    const bool goes_on = !over() && (!now || end.bid.is_above(now->bid));
+    return goes_on && first_to_name(end.bid.strain, end.declarer).value_or(end.declarer) == end.declarer;
 }
 
 }  // namespace exchange

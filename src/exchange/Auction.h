@@ -1,6 +1,5 @@
 #pragma once
 
-#include <compare>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -24,7 +23,10 @@ std::optional<Strain> strain_of(std::string_view text);
 struct Bid {
     int level = 1;  // 1 to 7
     Strain strain = Strain::Clubs;
-    friend constexpr auto operator<=>(const Bid&, const Bid&) = default;
+    constexpr bool is_above(const Bid& other) const {
+        return level != other.level ? level > other.level : strain > other.strain;
+    }
+    friend constexpr bool operator==(const Bid&, const Bid&) = default;
 };
 
 struct Call {
@@ -45,6 +47,7 @@ std::string text_of(const Call& call);
 std::optional<Call> call_of(std::string_view text);
 
 enum class Doubling { None, Doubled, Redoubled };
+std::string text_of(Doubling doubling);  // "", "X", "XX"
 
 struct Contract {
     Bid bid{};
@@ -58,6 +61,12 @@ struct Contract {
 
 // "4H", "4HX", "3NXX": without the declarer.
 std::string text_of(const Contract& contract);
+// From such a text, with blanks too; a double may be "D" or "*", a redouble "R", "DR" or "**".
+std::optional<Contract> contract_of(std::string_view text, Seat declarer);
+
+// The longest auction that there can be: three passes, each of 35 bids doubled and redoubled with two passes in front
+// of either, and three at the end.
+inline constexpr std::size_t kMostCalls = 319;
 
 struct Auction {
     Seat dealer = Seat::North;
@@ -73,7 +82,17 @@ struct Auction {
     // strain.
     std::optional<Contract> contract() const;
 
+    // Whether a legal auction ends in that contract, or can go on to it; the doubling apart.
+    bool may_end_in(const Contract& end) const;
+
+    // Takes off the passes behind its end; whether there were any.
+    bool drop_superfluous_passes();
+
     friend bool operator==(const Auction&, const Auction&) = default;
+
+private:
+    // Of that seat's side; none if neither did.
+    std::optional<Seat> first_to_name(Strain strain, Seat side) const;
 };
 
 }  // namespace exchange

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <compare>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "exchange/Auction.h"
 #include "exchange/Cards.h"
+#include "exchange/OwnPart.h"
 #include "exchange/Play.h"
 
 namespace exchange {
@@ -17,7 +19,7 @@ struct Place {
     enum class Kind { Question, Card, Answer };
     Kind kind = Kind::Question;
     int card = 0;
-    friend bool operator==(const Place&, const Place&) = default;
+    friend auto operator<=>(const Place&, const Place&) = default;
 };
 
 struct PlacedText {
@@ -45,10 +47,13 @@ struct Board {
     std::optional<int> result{};  // tricks of the declarer
     std::optional<Play> play{};
     std::vector<PlacedText> texts{};
+    std::vector<OwnPart> own{};     // of a lesson that the program exported
     std::vector<Remark> notes{};    // what was mended, cut or left out
     std::optional<Remark> error{};  // against the rules, or not to be understood: the board is no deal
     std::optional<Remark> unfit{};  // sound, but nothing that can become a deal of the program
 
+    // Texts at one place join with a line break.
+    void add_text(const PlacedText& text);
     void note(int at, std::string text) { notes.push_back({at, std::move(text)}); }
     // The first error stays.
     void fail(int at, std::string text) {

@@ -44,7 +44,7 @@ std::string take_part(std::string& text) {
 
 Remark cut(int line, const std::string& rest) {
     constexpr std::size_t kShown = 40;
-    return {line, "a text is too long; cut before \"" + to_utf8(left(rest, kShown)) + "\""};
+    return {line, "a text is too long; cut before \"" + platform::to_utf8(base::left(rest, kShown)) + "\""};
 }
 
 }  // namespace
@@ -70,7 +70,7 @@ std::array<std::string, kCardsInDeck> card_texts(const Board& board, std::vector
             rest = texts[at];
             line = lines[at];
         }
-        texts[at] = rest.empty() ? std::string() : replaced(take_part(rest), kBreak, "~");
+        texts[at] = rest.empty() ? std::string() : base::replaced(take_part(rest), kBreak, "~");
     }
     if (!rest.empty()) notes.push_back(cut(line, rest));
     return texts;

@@ -81,8 +81,9 @@ std::optional<Seat> Deal::holder(const Card& card) const {
 }
 
 void Deal::complete() {
+    const auto whole = std::ranges::count_if(hands_, [](const Hand& hand) { return hand.count() == kCardsInHand; });
     const auto empty = std::ranges::count_if(hands_, [](const Hand& hand) { return hand.empty(); });
-    if (empty != 1) return;
+    if (whole != kSeatCount - 1 || empty != 1) return;
     Hand& last = *std::ranges::find_if(hands_, [](const Hand& hand) { return hand.empty(); });
     Hand rest;
     for (const Suit suit : kSuits) {

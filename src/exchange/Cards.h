@@ -89,7 +89,7 @@ public:
 
     // The seat that holds the card.
     std::optional<Seat> holder(const Card& card) const;
-    // Gives the cards that nobody holds to the one hand that has none.
+    // Gives the cards that nobody holds to the one hand that has none, where the others have thirteen each.
     void complete();
     // What keeps it from being a deal of 52 cards, thirteen a hand; empty for a whole deal.
     std::string problem() const;

@@ -7,6 +7,8 @@
 #include "cards/Kaart.h"
 #include "cards/Kaarten.h"
 #include "exchange/CardTexts.h"
+#include "exchange/DealWords.h"
+#include "exchange/OwnParts.h"
 #include "exchange/OwnText.h"
 #include "platform/Files.h"
 
@@ -17,17 +19,7 @@ namespace {
 constexpr int kRounds = 9;  // that the bidding box holds
 constexpr const char* kLineEnd = "\r\n";
 
-constexpr std::array<const char*, 4> kSeatWords{"Noord", "Oost", "Zuid", "West"};
-constexpr std::array<const char*, 4> kSuitWords{"Schoppen", "Harten", "Ruiten", "Klaveren"};
-constexpr std::array<const char*, 5> kStrainWords{"Klaveren", "Ruiten", "Harten", "Schoppen", "SA"};
-constexpr std::string_view kValueLetters = "23456789TBVHA";
-constexpr std::array<const char*, 13> kValueWords{"2", "3", "4",    "5",     "6",    "7",  "8",
-                                                  "9", "T", "Boer", "Vrouw", "Heer", "Aas"};
-
-const char* word_of(Seat seat) { return kSeatWords[static_cast<std::size_t>(seat)]; }
-const char* word_of(Suit suit) { return kSuitWords[static_cast<std::size_t>(suit)]; }
-const char* word_of(Strain strain) { return kStrainWords[static_cast<std::size_t>(strain)]; }
-std::size_t value_of(const Card& card) { return static_cast<std::size_t>(card.rank - kLowestRank); }
+int code_of(const Card& card) { return cards::code_van(card.rank, static_cast<cards::Kleur>(card.suit)); }
 
 // Rounds begin with Noord.
 int rounds_of(const Auction& auction) {
@@ -45,13 +37,13 @@ public:
 
     std::string contract() const {
         const Contract& contract = *board_.contract;
-        return std::string(word_of(contract.declarer)) + " " + std::to_string(contract.bid.level) + " " +
+        return word_of(contract.declarer) + " " + std::to_string(contract.bid.level) + " " +
                word_of(contract.bid.strain) + kLineEnd;
     }
 
     std::string lead() const {
         const Card lead = *lead_of(board_);
-        return std::string(word_of(board_.contract->leader())) + " - " + std::to_string(index_of(lead.suit)) +
+        return word_of(board_.contract->leader()) + " - " + std::to_string(index_of(lead.suit)) +
                kValueWords[value_of(lead)] + kLineEnd;
     }
 
@@ -81,7 +73,7 @@ public:
             }
             if (auction.dealer != Seat::North) cells[0][0] = "-~~";
         }
-        std::string lines = std::string(board_.dealer ? word_of(*board_.dealer) : "") + kLineEnd;
+        std::string lines = (board_.dealer ? word_of(*board_.dealer) : "") + kLineEnd;
         for (const auto& column : cells) {
             for (const std::string& text : column)
                 lines += text + kLineEnd;
@@ -91,12 +83,8 @@ public:
 
     std::string question() const {
         std::string text = text_at(board_, Place::Kind::Question);
-        // The contract's own line has no place for a double.
-        if (board_.contract->doubling != Doubling::None) {
-            const char* const doubling =
-                board_.contract->doubling == Doubling::Doubled ? "gedoubleerd" : "geredoubleerd";
-            text = std::string("Het contract is ") + doubling + "." + (text.empty() ? "" : "\n") + text;
-        }
+        const std::string doubling(line_of(board_.contract->doubling));
+        if (!doubling.empty()) text = doubling + (text.empty() ? "" : "\n") + text;
         return paragraph(text);
     }
 
@@ -108,8 +96,8 @@ public:
                 if (placed.place.kind != Place::Kind::Card) continue;
                 const Card& card = board_.play->cards[static_cast<std::size_t>(placed.place.card - 1)];
                 text += (text.empty() ? "" : "\n") + std::string("Slag ") +
-                        std::to_string((placed.place.card - 1) / kSeatCount + 1) + ", " + word_of(card.suit) + " " +
-                        kValueWords[value_of(card)] + ": " + placed.text;
+                        std::to_string((placed.place.card - 1) / kSeatCount + 1) + ", " + cards::titel(code_of(card)) +
+                        ": " + placed.text;
             }
         }
         return paragraph(text);
@@ -147,9 +135,9 @@ private:
 };
 
 std::vector<DealFile> files_of(const Writer& writer, bool with_card_texts) {
-    return {{" Contract.txt", writer.contract()}, {" Uitkomst.txt", writer.lead()},
-            {" handen.txt", writer.hands()},      {" bieding.txt", writer.bidding()},
-            {" vraag.txt", writer.question()},    {" antwoord.txt", writer.answer(with_card_texts)}};
+    return {{suffix::kContract, writer.contract()}, {suffix::kLead, writer.lead()},
+            {suffix::kHands, writer.hands()},       {suffix::kBidding, writer.bidding()},
+            {suffix::kQuestion, writer.question()}, {suffix::kAnswer, writer.answer(with_card_texts)}};
 }
 
 }  // namespace
@@ -168,6 +156,8 @@ Board with(const Board& board, const Additions& additions) {
                        "the file says " + text_of(*board.contract) + " by " + letter_of(board.contract->declarer));
         } else if (board.passed_out) {
             added.fail(board.line, "the file says passed out");
+        } else if (board.auction && !board.auction->may_end_in(given)) {
+            added.fail(board.line, "the auction in the file cannot end in it");
         }
         added.contract = given;
     }
@@ -202,25 +192,58 @@ std::vector<DealFile> companion_files(const Board& board, std::vector<Remark>& n
     return files_of(Writer(board, notes), true);
 }
 
-std::vector<DealFile> lesson_files(const Board& board, std::vector<Remark>& notes) {
-    std::vector<DealFile> files = files_of(Writer(board, notes), false);
+bool tells_a_lesson(const Board& board) { return !refusal(board) && board.play->complete(); }
+
+bool comes_back_as_exported(const Board& board) {
+    return !board.error && !tells_a_lesson(board) && std::ranges::any_of(board.own, [](const OwnPart& part) {
+        return part.suffix == suffix::kPlay && stands_alone(part);
+    });
+}
+
+namespace {
+
+std::string play_rows(const Board& board) {
     std::string rows;
     for (const Trick& trick : board.play->tricks(board.contract->trump())) {
         for (int place = 0; place < kSeatCount; ++place)
             rows += std::to_string(index_of(after(trick.leader, place)) + 1);
         for (const Seat seat : kSeats) {
             const Card card = *trick.card_of(seat);
-            rows += "|" + std::to_string(kaart::code_van(card.rank, static_cast<kaart::Kleur>(card.suit)));
+            rows += "|" + std::to_string(code_of(card));
         }
         rows += kLineEnd;
     }
-    files.push_back({" aftavrin.txt", rows});
+    return rows;
+}
+
+std::string card_records(const Board& board, std::vector<Remark>& notes) {
     std::string records;
     int number = 0;
-    for (const std::string& text : card_texts(board, notes)) {
-        records += record_bytes(std::to_string(++number) + "|" + text, Kaarten::kRecordLengte);
-    }
-    files.push_back({" informatie.txt", records});
+    for (const std::string& text : card_texts(board, notes))
+        records += platform::record_bytes(std::to_string(++number) + "|" + text, cards::Kaarten::kRecordLengte);
+    return records;
+}
+
+}  // namespace
+
+std::vector<DealFile> files_as_told(const Board& board, std::vector<Remark>& notes) {
+    if (!tells_a_lesson(board)) return {};
+    std::vector<DealFile> files = files_of(Writer(board, notes), false);
+    files.push_back({suffix::kPlay, play_rows(board)});
+    files.push_back({suffix::kCardTexts, card_records(board, notes)});
+    return files;
+}
+
+std::vector<DealFile> lesson_files(const Board& board, std::vector<Remark>& notes) {
+    std::vector<Remark> made;
+    std::vector<DealFile> files = files_as_told(board, made);
+    // What was cut to be made is there again where all is put back.
+    std::vector<Remark> not_put_back;
+    put_back(board.own, files, not_put_back);
+    const bool texts_are_back =
+        not_put_back.empty() && std::ranges::find(board.own, suffix::kCardTexts, &OwnPart::suffix) != board.own.end();
+    if (!texts_are_back) notes.insert(notes.end(), made.begin(), made.end());
+    notes.insert(notes.end(), not_put_back.begin(), not_put_back.end());
     return files;
 }
 

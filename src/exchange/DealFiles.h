@@ -25,7 +25,7 @@ std::optional<Card> lead_of(const Board& board);
 
 // A file of a deal: what stands behind its name, and its bytes in Windows-1252.
 struct DealFile {
-    const char* suffix;
+    std::string suffix;
     std::string bytes;
 };
 
@@ -34,8 +34,16 @@ struct DealFile {
 // otherwise is added to the notes.
 std::vector<DealFile> companion_files(const Board& board, std::vector<Remark>& notes);
 
-// The eight files of a lesson: those, without the texts at cards, and " aftavrin.txt" and " informatie.txt". The play
-// is complete.
+// Whether the board tells enough for a lesson: it is not refused, and its play is complete.
+bool tells_a_lesson(const Board& board);
+// Whether the export of a lesson whose play ends early or breaks the rules put its files beside what the board tells:
+// then they come back, though the board itself tells no lesson.
+bool comes_back_as_exported(const Board& board);
+
+// The eight files of a lesson: those, without the texts at cards, and " aftavrin.txt" and " informatie.txt". A board
+// that was exported gives the files that it was exported from, of which some may be missing.
 std::vector<DealFile> lesson_files(const Board& board, std::vector<Remark>& notes);
+// The same as the board alone tells them; none where it doesn't tell a lesson.
+std::vector<DealFile> files_as_told(const Board& board, std::vector<Remark>& notes);
 
 }  // namespace exchange

@@ -74,7 +74,7 @@ bool Lines::fill() {
     stream_.read(buffer_.data(), static_cast<std::streamsize>(kPart));
     buffer_.resize(static_cast<std::size_t>(stream_.gcount()));
     at_ = 0;
-    if (stream_.bad()) throw Fout(FoutNummer::DeviceError);
+    if (stream_.bad()) throw base::Fout(base::FoutNummer::DeviceError);
     return !buffer_.empty();
 }
 
@@ -82,7 +82,7 @@ std::optional<std::string> Lines::next() {
     auto line = encoding_ == Encoding::Bytes ? line_of_bytes() : line_of_units();
     if (!line) return line;
     ++number_;
-    if (encoding_ == Encoding::Bytes && !is_utf8(*line)) return to_utf8(*line);
+    if (encoding_ == Encoding::Bytes && !is_utf8(*line)) return platform::to_utf8(*line);
     return line;
 }
 

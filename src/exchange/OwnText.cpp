@@ -1,5 +1,6 @@
 #include "exchange/OwnText.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -26,14 +27,24 @@ constexpr std::pair<const char*, const char*> kSpellings[] = {
 OwnText own_text(std::string_view utf8) {
     std::string text(utf8);
     for (std::size_t suit = 0; suit < kSuitLetters.size(); ++suit)
-        text = replaced(text, kSymbols[suit], kSuitLetters[suit]);
+        text = base::replaced(text, kSymbols[suit], kSuitLetters[suit]);
     for (const auto& [sign, spelling] : kSpellings)
-        text = replaced(text, sign, spelling);
+        text = base::replaced(text, sign, spelling);
+    const auto controls = [](char sign) {
+        return static_cast<unsigned char>(sign) < ' ' && sign != '\r' && sign != '\n';
+    };
     OwnText own;
-    own.bytes = from_utf8(text);
-    own.lossless = to_utf8(own.bytes) == text;
-    own.bytes = replaced(own.bytes, "\n", "\r\n");
+    own.bytes = platform::from_utf8(text);
+    own.lossless = platform::to_utf8(own.bytes) == text;
+    own.bytes = base::replaced(own.bytes, "\n", "\r\n");
+    std::ranges::replace_if(own.bytes, controls, ' ');
     return own;
+}
+
+std::string text_of_own(std::string bytes) {
+    for (const char* const line_end : {"\r\n", "\r", "~"})
+        bytes = base::replaced(bytes, line_end, "\n");
+    return platform::to_utf8(bytes);
 }
 
 }  // namespace exchange

@@ -8,25 +8,6 @@ namespace exchange::pbn {
 
 namespace {
 
-struct TaggedContract {
-    Bid bid{};
-    Doubling doubling = Doubling::None;
-};
-
-// "4H", "4HX", "3NTXX", also with blanks, and with D or R for the doubles.
-std::optional<TaggedContract> contract_of(const std::string& value) {
-    const std::string text = upper_case(replaced(value, " ", ""));
-    if (text.size() < 2) return std::nullopt;
-    const std::size_t strain_length = text.substr(1).starts_with("NT") || text.substr(1).starts_with("SA") ? 2 : 1;
-    const auto bid = call_of(text.substr(0, 1 + strain_length));
-    if (!bid || bid->kind != Call::Kind::Bid) return std::nullopt;
-    const std::string rest = text.substr(1 + strain_length);
-    const bool doubled = rest == "X" || rest == "D" || rest == "*";
-    const bool redoubled = rest == "XX" || rest == "R" || rest == "DR" || rest == "**";
-    if (!rest.empty() && !doubled && !redoubled) return std::nullopt;
-    return TaggedContract{bid->bid, redoubled ? Doubling::Redoubled : doubled ? Doubling::Doubled : Doubling::None};
-}
-
 std::string text_with_declarer(const Contract& contract) {
     return text_of(contract) + " by " + letter_of(contract.declarer);
 }
@@ -45,7 +26,7 @@ struct WrittenAuction {
 // The calls that a word stands for; none for one that is no call.
 std::optional<std::vector<Call>> calls_of(const std::string& word, const Auction& auction) {
     if (const auto call = call_of(word)) return std::vector{*call};
-    if (!equal_ignoring_case(word, "AP")) return std::nullopt;
+    if (!base::equal_ignoring_case(word, "AP")) return std::nullopt;
     Auction ended = auction;
     while (!ended.over())
         ended.calls.push_back(Call::pass());
@@ -66,7 +47,7 @@ public:
                 written.texts.push_back({auction.over() ? 0 : auction.calls.size(), token});
             } else if (written.broken_off) {
                 continue;
-            } else if (equal_ignoring_case(token.text, "all") && i + 1 < tag_.tokens.size()) {
+            } else if (base::equal_ignoring_case(token.text, "all") && i + 1 < tag_.tokens.size()) {
                 ++i;  // "all pass" in two words
                 if (!take_word("AP", token.line, written)) return false;
             } else if (!take_word(token.text, token.line, written)) {
@@ -88,18 +69,23 @@ private:
             return false;
         }
         if (text == "-") {
-            // Seats in front of the dealer.
+            // A seat in front of the dealer, or one behind what is known.
             if (auction.calls.empty()) auction.dealer = after(auction.dealer);
+            behind_ = behind_ || !auction.calls.empty();
             return true;
         }
         const MarkedWord marked = without_marks(text);
         if (!marked.word.empty() && marked.word != "+") {
             const auto calls = calls_of(marked.word, auction);
-            if (!calls) {
-                board_.fail(line, "not a call: " + text);
+            if (!calls || behind_) {
+                board_.fail(line, calls ? "a call is missing in front of " + text : "not a call: " + text);
                 return false;
             }
             auction.calls.insert(auction.calls.end(), calls->begin(), calls->end());
+            if (auction.calls.size() > kMostCalls) {
+                board_.fail(line, "an auction without an end");
+                return false;
+            }
         }
         if (const auto note = notes_.find(marked.note); note != notes_.end()) {
             written.texts.push_back({auction.calls.size(), {PbnToken::Kind::Comment, note->second, line}});
@@ -110,20 +96,8 @@ private:
     const PbnTag& tag_;
     Board& board_;
     std::map<std::string, std::string> notes_;
+    bool behind_ = false;  // what is known
 };
-
-// Passes behind the end are no calls.
-void drop_superfluous_passes(Auction& auction, const PbnTag& tag, Board& board) {
-    std::size_t dropped = 0;
-    while (!auction.calls.empty() && auction.calls.back() == Call::pass()) {
-        Auction shorter = auction;
-        shorter.calls.pop_back();
-        if (!shorter.over()) break;
-        auction = shorter;
-        ++dropped;
-    }
-    if (dropped > 0) board.note(tag.line, "passes behind the end of the auction are left out");
-}
 
 // Some programs leave opening passes out. They are put back where contract and declarer both stand in tags, and fit
 // the auction only then.
@@ -141,76 +115,127 @@ int put_passes_back(Auction& auction, const Contract& tagged, const std::optiona
     return 0;
 }
 
-std::optional<Seat> seat_of_play(const PbnGame& game) {
+// Whose card the play begins with; none without a play.
+std::optional<Seat> leader_in_play(const PbnGame& game, const Board& board) {
     const PbnTag* play = game.find("Play");
-    return play && play->value.size() == 1 ? seat_of(play->value[0]) : std::nullopt;
+    if (!play || !board.deal) return std::nullopt;
+    const auto card = first_card_of(*play);
+    return card ? board.deal->holder(*card) : std::nullopt;
+}
+
+// Whose call the auction begins with: the seat of its tag, or the dealer where that tells none.
+std::optional<Seat> first_caller(const PbnTag& tag, Board& board) {
+    if (tells_something(tag.value)) {
+        const auto first = tag.value.size() == 1 ? seat_of(tag.value[0]) : std::nullopt;
+        if (!first) board.fail(tag.line, "not a seat: " + tag.value);
+        return first;
+    }
+    const bool any = std::ranges::any_of(tag.tokens, [](const PbnToken& token) {
+        return token.kind == PbnToken::Kind::Word && call_of(without_marks(token.text).word);
+    });
+    if (!any) return std::nullopt;
+    board.note(tag.line, board.dealer ? "the auction's tag names no seat; the dealer's holds"
+                                      : "an auction without a dealer is left out");
+    return board.dealer;
+}
+
+// What the tags tell of the contract, each by itself.
+struct Tags {
+    std::optional<Contract> contract{};  // the declarer apart from it
+    std::optional<Seat> declarer{};
+};
+
+Tags tags_of(const PbnGame& game) {
+    Tags tags;
+    if (const PbnTag* contract = game.find("Contract")) tags.contract = contract_of(contract->value, {});
+    if (const PbnTag* declarer = game.find("Declarer")) {
+        // "^S" is a declarer after an irregularity.
+        const std::string seat = declarer->value.substr(declarer->value.starts_with('^') ? 1 : 0);
+        if (seat.size() == 1) tags.declarer = seat_of(seat[0]);
+    }
+    return tags;
+}
+
+std::string text_of(const Tags& tags) {
+    std::string text;
+    if (tags.contract) text = exchange::text_of(*tags.contract);
+    if (tags.declarer) text += std::string(text.empty() ? "" : " ") + "by " + letter_of(*tags.declarer);
+    return text;
 }
 
 // Which of the two holds where tags and auction differ.
-void settle(const Auction& auction, const PbnTag& tag, Board& board) {
-    const auto bidden = auction.contract();
+void settle(const Auction& auction, const Tags& tags, int line, Board& board) {
     if (!auction.over()) {
-        if (!board.contract)
-            board.note(tag.line, "the auction is not finished");
-        else if (bidden != board.contract)
-            board.note(tag.line, "the auction is not finished; the contract's tag holds");
-        return;
+        if (board.contract && !auction.may_end_in(*board.contract))
+            return board.fail(line, "the auction cannot end in the tags' " + text_with_declarer(*board.contract));
+        const char* const holds = board.contract ? "; the contract's tag holds" : "";
+        return board.note(line, std::string("the auction is not finished") + holds);
     }
+    const auto bidden = auction.contract();
     if (!bidden) {
-        if (board.contract)
-            return board.fail(tag.line, "passed out, but the tags say " + text_with_declarer(*board.contract));
+        if (tags.contract) return board.fail(line, "passed out, but the tags say " + text_of(tags));
         board.passed_out = true;
         return;
     }
     if (board.passed_out)
-        return board.fail(tag.line, "the tag says passed out, the auction " + text_with_declarer(*bidden));
-    if (board.contract && (board.contract->bid != bidden->bid || board.contract->declarer != bidden->declarer)) {
-        return board.fail(tag.line, "the auction ends in " + text_with_declarer(*bidden) + ", the tags say " +
-                                        text_with_declarer(*board.contract));
+        return board.fail(line, "the tag says passed out, the auction " + text_with_declarer(*bidden));
+    const bool same_bid = !tags.contract || tags.contract->bid == bidden->bid;
+    const bool same_declarer = !tags.declarer || *tags.declarer == bidden->declarer;
+    if (!same_bid || !same_declarer) {
+        return board.fail(line,
+                          "the auction ends in " + text_with_declarer(*bidden) + ", the tags say " + text_of(tags));
     }
-    if (board.contract && *board.contract != *bidden)
-        board.note(tag.line, "the auction's doubling holds, not the tag's");
+    if (tags.contract && tags.contract->doubling != bidden->doubling)
+        board.note(line, "the auction's doubling holds, not the tag's");
     board.contract = bidden;
+}
+
+bool says_passed_out(const std::string& value) {
+    return base::equal_ignoring_case(value, "Pass") || base::equal_ignoring_case(value, "P");
 }
 
 }  // namespace
 
 void read_contract(const PbnGame& game, Board& board) {
-    const PbnTag* contract = game.find("Contract");
-    const PbnTag* declarer = game.find("Declarer");
-    if (const PbnTag* result = game.find("Result"); result && tells_something(result->value)) {
-        const std::string digits =
-            result->value.substr(std::min(result->value.find_first_of("0123456789"), result->value.size()));
-        if (!digits.empty() && numeric_value(digits) <= kTricks) board.result = numeric_value(digits);
+    if (const PbnTag* result = game.find("Result")) {
+        const std::string& value = result->value;
+        const bool number = !value.empty() && value.find_first_not_of("0123456789") == std::string::npos;
+        if (number && base::numeric_value(value) <= kTricks) board.result = base::numeric_value(value);
     }
+    const PbnTag* contract = game.find("Contract");
     if (!contract || !tells_something(contract->value)) return;
-    if (equal_ignoring_case(contract->value, "Pass") || equal_ignoring_case(contract->value, "P")) {
+    if (says_passed_out(contract->value)) {
         board.passed_out = true;
         return;
     }
-    const auto tagged = contract_of(contract->value);
-    if (!tagged) return board.fail(contract->line, "not a contract: " + contract->value);
-    if (!declarer || !tells_something(declarer->value)) return;
-    const std::string seat = declarer->value.substr(declarer->value.starts_with('^') ? 1 : 0, 1);
-    const auto by = seat.empty() ? std::nullopt : seat_of(seat[0]);
-    if (!by) return board.fail(declarer->line, "not a declarer: " + declarer->value);
-    board.contract = Contract{tagged->bid, tagged->doubling, *by};
+    const PbnTag* declarer = game.find("Declarer");
+    const Tags tags = tags_of(game);
+    if (!tags.contract) return board.fail(contract->line, "not a contract: " + contract->value);
+    if (!tags.declarer && declarer && tells_something(declarer->value))
+        return board.fail(declarer->line, "not a declarer: " + declarer->value);
+    if (tags.declarer) board.contract = Contract{tags.contract->bid, tags.contract->doubling, *tags.declarer};
+}
+
+void take_known_contract(const PbnGame& game, const Contract& known, Board& board) {
+    if (board.contract || board.passed_out) return;
+    const Tags tags = tags_of(game);
+    const bool same_contract =
+        !tags.contract || (tags.contract->bid == known.bid && tags.contract->doubling == known.doubling);
+    if (!same_contract || (tags.declarer && *tags.declarer != known.declarer))
+        return board.fail(game.line, "the file says " + text_of(tags));
+    board.contract = known;
 }
 
 void read_auction(const PbnGame& game, Board& board) {
     const PbnTag* tag = game.find("Auction");
-    if (!tag || !tells_something(tag->value) || board.error) return;
-    const auto first = tag->value.size() == 1 ? seat_of(tag->value[0]) : std::nullopt;
-    if (!first) return board.fail(tag->line, "not a seat: " + tag->value);
+    if (!tag || board.error) return;
+    const auto first = first_caller(*tag, board);
+    if (!first) return;
     WrittenAuction written{.auction = {*first, {}}};
     if (!SectionReader(game, *tag, board).read(written)) return;
     Auction& auction = written.auction;
-    if (auction.calls.empty()) {
-        for (const auto& text : written.texts)
-            add_text(board, {Place::Kind::Question, 0}, text.text);
-        return;
-    }
-    drop_superfluous_passes(auction, *tag, board);
+    if (auction.calls.empty()) return;
+    if (auction.drop_superfluous_passes()) board.note(tag->line, "passes behind the end of the auction are left out");
 
     const auto fits = [&] {
         const auto contract = auction.contract();
@@ -219,7 +244,7 @@ void read_auction(const PbnGame& game, Board& board) {
     };
     std::size_t put_back = 0;
     if (board.contract && !fits()) {
-        put_back = static_cast<std::size_t>(put_passes_back(auction, *board.contract, seat_of_play(game)));
+        put_back = static_cast<std::size_t>(put_passes_back(auction, *board.contract, leader_in_play(game, board)));
         if (put_back > 0)
             board.note(tag->line, std::to_string(put_back) + " opening passes were left out and are put back");
     }
@@ -229,7 +254,7 @@ void read_auction(const PbnGame& game, Board& board) {
                    std::string("the auction begins with ") + letter_of(auction.dealer) + ", not with the dealer's tag");
     }
     board.dealer = auction.dealer;
-    settle(auction, *tag, board);
+    settle(auction, tags_of(game), tag->line, board);
     board.auction = auction;
     for (const auto& [calls, text] : written.texts) {
         const std::string call =

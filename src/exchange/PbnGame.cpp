@@ -1,6 +1,7 @@
 #include "exchange/PbnGame.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "base/Text.h"
@@ -11,6 +12,9 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t\v\f";
 
+// One of these, for the second time, belongs to the next game.
+constexpr std::array kFirstTags{"Event", "Board", "Deal"};
+
 bool blank(std::string_view text) { return text.find_first_not_of(kBlanks) == std::string_view::npos; }
 
 std::string without_blanks(std::string_view text) {
@@ -19,10 +23,18 @@ std::string without_blanks(std::string_view text) {
     return std::string(text.substr(first, text.find_last_not_of(kBlanks) - first + 1));
 }
 
+// Whether the line begins with one of the first tags.
+bool begins_game(std::string_view line) {
+    return std::ranges::any_of(kFirstTags, [&](const std::string& name) {
+        const std::string tag = "[" + name + " \"";
+        return base::equal_ignoring_case(line.substr(0, tag.size()), tag);
+    });
+}
+
 // A comment's lines, each without the blanks around it.
 std::string comment_text(std::string_view raw) {
     std::string text;
-    for (const std::string& line : split(raw, "\n"))
+    for (const std::string& line : base::split(raw, "\n"))
         text += without_blanks(line) + "\n";
     const std::size_t first = text.find_first_not_of('\n');
     if (first == std::string::npos) return {};
@@ -33,7 +45,7 @@ std::string comment_text(std::string_view raw) {
 
 const PbnTag* PbnGame::find(std::string_view name) const {
     const auto found =
-        std::ranges::find_if(tags, [&](const PbnTag& tag) { return equal_ignoring_case(tag.name, name); });
+        std::ranges::find_if(tags, [&](const PbnTag& tag) { return base::equal_ignoring_case(tag.name, name); });
     return found == tags.end() ? nullptr : &*found;
 }
 
@@ -41,6 +53,10 @@ std::optional<PbnGame> PbnGames::next() {
     while (ready_.empty()) {
         const auto line = lines_.next();
         if (!line) break;
+        if (std::exchange(behind_empty_line_, blank(*line)) && state_ != State::Outside && begins_game(*line)) {
+            break_off();
+            if (!game_.tags.empty()) finish_game();
+        }
         if (state_ == State::Outside && blank(*line)) {
             if (!game_.tags.empty()) finish_game();
             continue;
@@ -50,9 +66,7 @@ std::optional<PbnGame> PbnGames::next() {
         take_line(*line);
     }
     if (ready_.empty()) {
-        if (state_ == State::Comment) game_.problems.push_back({began_, "a comment that does not end"});
-        if (state_ == State::Tag) game_.problems.push_back({began_, "a tag that does not end"});
-        state_ = State::Outside;
+        break_off();
         if (game_.tags.empty() && game_.problems.empty()) return std::nullopt;
         finish_game();
     }
@@ -63,6 +77,14 @@ std::optional<PbnGame> PbnGames::next() {
 
 void PbnGames::finish_game() { ready_.push_back(std::exchange(game_, {})); }
 
+void PbnGames::break_off() {
+    if (state_ == State::Outside) return;
+    const bool comment = state_ == State::Comment;
+    if (comment) add_token(PbnToken::Kind::Comment, comment_text(text_), began_);
+    game_.problems.push_back({began_, comment ? "a comment that does not end" : "a tag that does not end"});
+    state_ = State::Outside;
+}
+
 void PbnGames::add_token(PbnToken::Kind kind, std::string text, int line) {
     auto& tokens = game_.tags.empty() ? game_.before : game_.tags.back().tokens;
     tokens.push_back({kind, std::move(text), line, row_});
@@ -71,11 +93,8 @@ void PbnGames::add_token(PbnToken::Kind kind, std::string text, int line) {
 void PbnGames::take_line(std::string_view line) {
     if (state_ == State::Outside) ++row_;
     if (game_.line == 0) game_.line = lines_.number();
-    // A value whose closing quote is missing does not swallow the tags behind it.
-    if (state_ == State::Tag && in_quotes_ && line.starts_with('[') && line.find('"') != std::string_view::npos) {
-        game_.problems.push_back({began_, "a tag that does not end"});
-        state_ = State::Outside;
-    }
+    // A tag whose closing quote or bracket is missing does not swallow the tags behind it.
+    if (state_ == State::Tag && line.starts_with('[') && line.find('"') != std::string_view::npos) break_off();
     if (state_ != State::Outside) text_ += '\n';
     for (std::size_t at = 0; at < line.size();) {
         if (state_ == State::Comment) {
@@ -133,7 +152,7 @@ std::size_t PbnGames::take_tag(std::string_view line, std::size_t at) {
 void PbnGames::finish_tag() {
     const std::size_t quote = text_.find('"');
     const std::size_t last = text_.rfind('"');
-    const std::string name = without_blanks(replaced(text_.substr(0, quote), "\n", " "));
+    const std::string name = without_blanks(base::replaced(text_.substr(0, quote), "\n", " "));
     if (name.empty() || quote == std::string::npos || quote == last) {
         game_.problems.push_back({began_, "not a tag: [" + text_ + "]"});
         return;
@@ -143,8 +162,8 @@ void PbnGames::finish_tag() {
         if (text_[at] == '\\' && at + 1 < last && (text_[at + 1] == '"' || text_[at + 1] == '\\')) ++at;
         value += text_[at] == '\n' ? ' ' : text_[at];
     }
-    for (const char* begins : {"Event", "Board", "Deal"}) {
-        if (!equal_ignoring_case(name, begins) || !game_.find(name)) continue;
+    for (const char* begins : kFirstTags) {
+        if (!base::equal_ignoring_case(name, begins) || !game_.find(name)) continue;
         finish_game();
         game_.line = began_;
     }

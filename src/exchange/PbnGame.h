@@ -39,7 +39,7 @@ struct PbnGame {
 };
 
 // Cuts a file into its games. An empty line ends a game, but not within a comment; so does a second Event, Board or
-// Deal tag.
+// Deal tag. A comment or a tag that does not end is told, and ends where the next game begins behind an empty line.
 class PbnGames {
 public:
     explicit PbnGames(std::istream& stream) : lines_(stream) {}
@@ -52,6 +52,8 @@ private:
     std::size_t take_tag(std::string_view line, std::size_t at);
     void finish_tag();
     void finish_game();
+    // Ends the comment or the tag that is open.
+    void break_off();
     void add_token(PbnToken::Kind kind, std::string text, int line);
 
     Lines lines_;
@@ -61,6 +63,7 @@ private:
     std::string text_;  // of the comment or the tag that is open
     int began_ = 0;     // its line
     bool in_quotes_ = false;
+    bool behind_empty_line_ = false;
     int row_ = 0;
 };
 

@@ -1,107 +1,15 @@
-// The play of a PBN game: rows of four cards, in columns from the opening leader on.
+// Who played which card of the rows of a PBN game, in which order.
 #include <algorithm>
 #include <array>
 #include <utility>
 
 #include "base/Text.h"
 #include "exchange/PbnReader.h"
+#include "exchange/PbnRows.h"
 
 namespace exchange::pbn {
 
 namespace {
-
-// A card as it stands in a row, by the number of the row and its place there.
-struct Slot {
-    std::optional<Card> card{};
-    int line = 0;
-};
-using Row = std::vector<Slot>;  // at most four
-
-// The texts of a section, each behind the slot that it follows.
-struct Text {
-    std::size_t row = 0;
-    std::size_t slot = 0;
-    PbnToken text{};
-};
-
-struct WrittenPlay {
-    std::vector<Row> rows{};
-    std::vector<Text> texts{};       // at a card
-    std::vector<PbnToken> before{};  // in front of the first card
-    std::vector<PbnToken> behind{};  // behind the end mark
-};
-
-class SectionReader {
-public:
-    SectionReader(const PbnGame& game, const PbnTag& tag, Board& board)
-        : tag_(tag), board_(board), notes_(notes_behind(game, tag)), by_lines_(rows_are_lines()) {}
-
-    // False if it is against the rules in a way that nobody can mend.
-    bool read(WrittenPlay& written) {
-        bool ended = false;
-        for (const PbnToken& token : tag_.tokens) {
-            if (token.kind == PbnToken::Kind::Comment) {
-                take_text(token, ended, written);
-            } else if (token.text == "*") {
-                ended = true;
-            } else if (!ended && !take_word(token, written)) {
-                return false;
-            }
-        }
-        return true;
-    }
-
-private:
-    // As a rule a row is a line; where a line has more than four cards, every four of them are one.
-    bool rows_are_lines() const {
-        std::map<int, int> words;
-        for (const PbnToken& token : tag_.tokens) {
-            const bool counts =
-                token.kind == PbnToken::Kind::Word && token.text != "+" && !without_marks(token.text).word.empty();
-            if (counts && ++words[token.row] > kSeatCount + (token.text == "*" ? 1 : 0)) return false;
-        }
-        return true;
-    }
-
-    bool take_word(const PbnToken& token, WrittenPlay& written) {
-        if (token.text.starts_with('^')) {
-            board_.fail(token.line, "an irregular card: " + token.text);
-            return false;
-        }
-        const MarkedWord marked = without_marks(token.text);
-        if (!marked.word.empty() && marked.word != "+") {
-            const auto card = card_of(marked.word);
-            if (!card && marked.word != "-") {
-                board_.fail(token.line, "not a card: " + token.text);
-                return false;
-            }
-            const bool new_row =
-                written.rows.empty() || written.rows.back().size() == kSeatCount || (by_lines_ && token.row != row_);
-            if (new_row) written.rows.emplace_back();
-            row_ = token.row;
-            written.rows.back().push_back({card, token.line});
-        }
-        if (const auto note = notes_.find(marked.note); note != notes_.end())
-            take_text({PbnToken::Kind::Comment, note->second, token.line}, false, written);
-        return true;
-    }
-
-    static void take_text(const PbnToken& text, bool ended, WrittenPlay& written) {
-        if (ended) {
-            written.behind.push_back(text);
-        } else if (written.rows.empty()) {
-            written.before.push_back(text);
-        } else {
-            written.texts.push_back({written.rows.size() - 1, written.rows.back().size() - 1, text});
-        }
-    }
-
-    const PbnTag& tag_;
-    Board& board_;
-    std::map<std::string, std::string> notes_;
-    bool by_lines_;
-    int row_ = 0;
-};
 
 // Who played each slot. Columns run from the opening leader; a player without a card there is marked "-".
 using Players = std::vector<std::vector<Seat>>;
@@ -205,51 +113,72 @@ int line_of_card(const WrittenPlay& written, const TrueOrder& order, int number)
     return 0;
 }
 
+// Who played which card of the rows, where that can be told; with a note where something was mended for it.
+struct PlayedRows {
+    WrittenPlay written{};
+    Players players{};
+};
+
+std::optional<PlayedRows> in_columns(const WrittenPlay& written, Seat leader, const Board& board) {
+    Players players = players_by_column(written.rows, leader);
+    if (!hold_their_cards(written.rows, players, *board.deal)) return std::nullopt;
+    return PlayedRows{written, std::move(players)};
+}
+
+// Mended where the first card is in the hand left of declarer and each row has one card of each hand.
+std::optional<PlayedRows> out_of_columns(const WrittenPlay& written, Seat leader, const Board& board) {
+    auto players = players_by_hand(written.rows, *board.deal);
+    if (!players || !written.rows.front().front().card || players->front().front() != leader) return std::nullopt;
+    return PlayedRows{written, std::move(*players)};
+}
+
+std::optional<PlayedRows> played_rows(RowReader& section, const WrittenPlay& fours, const PbnTag& tag, Board& board) {
+    const Seat leader = board.contract->leader();
+    const WrittenPlay lines = section.has_rows_in_lines() ? *section.read(Rows::Lines) : fours;
+    const bool led_as_tagged = tag.value.size() == 1 && seat_of(tag.value[0]) == leader;
+    if (led_as_tagged) {
+        for (const WrittenPlay& written : {fours, lines}) {
+            if (auto rows = in_columns(written, leader, board)) return rows;
+        }
+    }
+    for (const WrittenPlay& written : {lines, fours}) {
+        auto rows = out_of_columns(written, leader, board);
+        if (!rows) continue;
+        board.note(tag.line, led_as_tagged                ? "the cards of the play stand out of their columns"
+                             : tells_something(tag.value) ? "the play is led by another seat than its tag says"
+                                                          : "the play's tag names no seat");
+        return rows;
+    }
+    board.fail(tag.line, "the play does not fit the hands, or is not led from declarer's left");
+    return std::nullopt;
+}
+
 }  // namespace
 
 void read_play(const PbnGame& game, Board& board) {
     const PbnTag* tag = game.find("Play");
-    if (!tag || !tells_something(tag->value) || board.error) return;
-    WrittenPlay written;
-    if (!SectionReader(game, *tag, board).read(written)) return;
-    const bool any = std::ranges::any_of(written.rows, [](const Row& row) {
+    if (!tag || board.error || (!tells_something(tag->value) && !first_card_of(*tag))) return;
+    RowReader section(game, *tag, board);
+    const auto fours = section.read(Rows::Fours);
+    if (!fours) return;
+    const bool any = std::ranges::any_of(fours->rows, [](const Row& row) {
         return std::ranges::any_of(row, [](const Slot& slot) { return slot.card.has_value(); });
     });
-    if (!any || !board.deal) {
-        place_texts({{}, {}, written.before, {}}, {}, tag->line, board);
-        for (const Text& text : written.texts)
-            add_text(board, {Place::Kind::Question, 0}, text.text);
-        for (const PbnToken& text : written.behind)
-            add_text(board, {Place::Kind::Question, 0}, text);
-        return;
-    }
+    if (!any || !board.deal) return;
     if (!board.contract) return board.note(tag->line, "a play without a contract is left out");
+    const auto rows = played_rows(section, *fours, *tag, board);
+    if (!rows) return;
 
-    const Seat leader = board.contract->leader();
-    const bool led_as_tagged = tag->value.size() == 1 && seat_of(tag->value[0]) == leader;
-    Players players = players_by_column(written.rows, leader);
-    if (!led_as_tagged || !hold_their_cards(written.rows, players, *board.deal)) {
-        const auto by_hand = players_by_hand(written.rows, *board.deal);
-        const Slot& first = written.rows.front().front();
-        if (!by_hand || !first.card || by_hand->front().front() != leader) {
-            return board.fail(tag->line, "the play does not fit the hands, or is not led from declarer's left");
-        }
-        board.note(tag->line, led_as_tagged ? "the cards of the play stand out of their columns"
-                                            : "the play is led by another seat than its tag says");
-        players = *by_hand;
-    }
     const std::optional<Suit> trump = board.contract->trump();
-    const TrueOrder order = in_true_order(written.rows, players, leader, trump);
-    const std::string problem = order.play.problem(*board.deal, trump);
-    if (!problem.empty()) {
-        return board.fail(line_of_card(written, order, numeric_value(problem.substr(problem.find(' ')))), problem);
-    }
+    const TrueOrder order = in_true_order(rows->written.rows, rows->players, board.contract->leader(), trump);
+    if (const auto fault = order.play.fault(*board.deal, trump))
+        return board.fail(line_of_card(rows->written, order, static_cast<int>(fault->card)), fault->text);
     if (order.gap) {
         board.note(tag->line, "the play has a gap behind card " + std::to_string(order.play.cards.size()) +
                                   "; the rest is left out");
     }
     board.play = order.play;
-    place_texts(written, order, tag->line, board);
+    place_texts(rows->written, order, tag->line, board);
 }
 
 }  // namespace exchange::pbn

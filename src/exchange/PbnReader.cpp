@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/Text.h"
+#include "exchange/OwnParts.h"
 #include "exchange/Texts.h"
 
 namespace exchange {
@@ -19,13 +20,13 @@ std::optional<Vulnerable> vulnerable_of(const std::string& value) {
         {"none", Vulnerable::None},     {"love", Vulnerable::None},      {"-", Vulnerable::None},
         {"ns", Vulnerable::NorthSouth}, {"n-s", Vulnerable::NorthSouth}, {"ew", Vulnerable::EastWest},
         {"e-w", Vulnerable::EastWest},  {"all", Vulnerable::Both},       {"both", Vulnerable::Both}};
-    const auto found = kWords.find(lower_case(value));
+    const auto found = kWords.find(base::lower_case(value));
     return found == kWords.end() ? std::nullopt : std::optional(found->second);
 }
 
 std::vector<std::string> words_of(const std::string& text) {
     std::vector<std::string> words;
-    for (const std::string& word : split(replaced(text, "\t", " "), " ")) {
+    for (const std::string& word : base::split(base::replaced(text, "\t", " "), " ")) {
         if (!word.empty()) words.push_back(word);
     }
     return words;
@@ -33,10 +34,10 @@ std::vector<std::string> words_of(const std::string& text) {
 
 // Cards of one hand, suits with a point between them. False for anything else.
 bool read_hand(const std::string& text, Hand& hand) {
-    const Pieces suits = split(text, ".");
+    const base::Pieces suits = base::split(text, ".");
     if (suits.last() != 3) return false;
     for (const Suit suit : kSuits) {
-        const std::string ranks = replaced(suits[index_of(suit)], "10", "T");
+        const std::string ranks = base::replaced(suits[index_of(suit)], "10", "T");
         for (const char letter : ranks) {
             const auto rank = rank_of(letter);
             if (!rank || hand.holds(Card{suit, *rank})) return false;
@@ -44,6 +45,20 @@ bool read_hand(const std::string& text, Hand& hand) {
         }
     }
     return true;
+}
+
+// Number, dealer and vulnerability.
+void read_head(const PbnGame& game, Board& board) {
+    if (const PbnTag* tag = game.find("Board")) board.board = tag->value;
+    if (const PbnTag* tag = game.find("Dealer"); tag && pbn::tells_something(tag->value)) {
+        if (tag->value.size() == 1) board.dealer = seat_of(tag->value[0]);
+        if (!board.dealer) board.note(tag->line, "not a dealer: " + tag->value);
+    }
+    if (const PbnTag* tag = game.find("Vulnerable")) {
+        board.vulnerable = vulnerable_of(tag->value);
+        if (!board.vulnerable && pbn::tells_something(tag->value))
+            board.note(tag->line, "not a vulnerability: " + tag->value);
+    }
 }
 
 }  // namespace
@@ -85,14 +100,9 @@ void add_text(Board& board, const Place& place, const PbnToken& text) {
 void join_texts(Board& board) {
     std::vector<PlacedText> texts = std::exchange(board.texts, {});
     std::ranges::stable_sort(texts, {}, &PlacedText::line);
-    for (PlacedText& text : texts) {
-        const auto same = std::ranges::find(board.texts, text.place, &PlacedText::place);
-        if (same != board.texts.end()) {
-            same->text += "\n" + text.text;
-        } else {
-            board.texts.push_back(std::move(text));
-        }
-    }
+    for (const PlacedText& text : texts)
+        board.add_text(text);
+    std::ranges::sort(board.texts, {}, &PlacedText::place);
 }
 
 MarkedWord without_marks(const std::string& word) {
@@ -107,20 +117,26 @@ MarkedWord without_marks(const std::string& word) {
     return marked;
 }
 
+std::optional<Card> first_card_of(const PbnTag& section) {
+    const auto word = std::ranges::find(section.tokens, PbnToken::Kind::Word, &PbnToken::kind);
+    return word == section.tokens.end() ? std::nullopt : card_of(without_marks(word->text).word);
+}
+
 std::map<std::string, std::string> notes_behind(const PbnGame& game, const PbnTag& section) {
     std::map<std::string, std::string> notes;
     const auto from = std::ranges::find_if(game.tags, [&](const PbnTag& tag) { return &tag == &section; });
-    for (auto tag = from + 1; tag != game.tags.end() && equal_ignoring_case(tag->name, "Note"); ++tag) {
+    for (auto tag = from + 1; tag != game.tags.end() && base::equal_ignoring_case(tag->name, "Note"); ++tag) {
         const std::size_t colon = tag->value.find(':');
         if (colon != std::string::npos)
-            notes[trimmed(tag->value.substr(0, colon))] = trimmed(tag->value.substr(colon + 1));
+            notes[base::trimmed(tag->value.substr(0, colon))] = base::trimmed(tag->value.substr(colon + 1));
     }
     return notes;
 }
 
-// All comments stand in front of the play in a game that has none.
+// All comments stand in front of the play in a game that has none; so do those of an auction or a play that has nothing
+// else.
 void read_comments(const PbnGame& game, Board& board) {
-    const auto is = [](const PbnTag& tag, const char* name) { return equal_ignoring_case(tag.name, name); };
+    const auto is = [](const PbnTag& tag, const char* name) { return base::equal_ignoring_case(tag.name, name); };
     Place place{Place::Kind::Question, 0};
     const auto take = [&](const std::vector<PbnToken>& tokens) {
         for (const PbnToken& token : tokens) {
@@ -139,7 +155,7 @@ void read_comments(const PbnGame& game, Board& board) {
 
 }  // namespace pbn
 
-std::optional<Board> PbnReader::next() {
+std::optional<Board> PbnReader::next(const std::optional<Contract>& known) {
     auto game = games_.next();
     if (!game) return std::nullopt;
     inherit(*game);
@@ -147,13 +163,7 @@ std::optional<Board> PbnReader::next() {
     board.line = game->line;
     for (const Remark& problem : game->problems)
         board.note(problem.line, problem.text);
-    const auto value = [&](const char* name) {
-        const PbnTag* tag = game->find(name);
-        return tag ? tag->value : std::string();
-    };
-    board.board = value("Board");
-    if (const std::string dealer = value("Dealer"); dealer.size() == 1) board.dealer = seat_of(dealer[0]);
-    board.vulnerable = vulnerable_of(value("Vulnerable"));
+    read_head(*game, board);
     if (const PbnTag* tag = game->find("Deal"); tag && pbn::tells_something(tag->value)) {
         pbn::read_deal(*tag, board);
     } else {
@@ -162,11 +172,15 @@ std::optional<Board> PbnReader::next() {
     if (!board.error && !board.unfit) {
         pbn::read_contract(*game, board);
         pbn::read_auction(*game, board);
+        if (known) pbn::take_known_contract(*game, *known, board);
         pbn::read_play(*game, board);
     }
     pbn::read_comments(*game, board);
+    for (const PbnTag& tag : game->tags) {
+        if (auto part = own_part_of(tag, board.notes)) board.own.push_back(std::move(*part));
+    }
     pbn::join_texts(board);
-    if (board.board != previous_board_ || board.deal) previous_deal_ = board.deal;
+    if (board.board != previous_board_ || board.deal) previous_deal_ = board.unfit ? std::nullopt : board.deal;
     previous_board_ = board.board;
     return board;
 }
@@ -175,7 +189,7 @@ std::optional<Board> PbnReader::next() {
 void PbnReader::inherit(PbnGame& game) {
     std::map<std::string, std::string> values;
     for (PbnTag& tag : game.tags) {
-        const std::string name = lower_case(tag.name);
+        const std::string name = base::lower_case(tag.name);
         const bool may_last = std::ranges::find(kNeverLasting, name) == kNeverLasting.end();
         if (tag.value == "#") {
             tag.value = previous_[name];

@@ -15,8 +15,9 @@ namespace exchange {
 class PbnReader {
 public:
     explicit PbnReader(std::istream& stream) : games_(stream) {}
-    // The next board; none behind the last. Failure 57 where the stream breaks off.
-    std::optional<Board> next();
+    // The next board; none behind the last. `known` is the contract of a board of which the file tells none. Failure 57
+    // where the stream breaks off.
+    std::optional<Board> next(const std::optional<Contract>& known = {});
 
 private:
     void inherit(PbnGame& game);
@@ -38,13 +39,18 @@ bool tells_something(const std::string& value);
 void read_deal(const PbnTag& tag, Board& board);
 void read_contract(const PbnGame& game, Board& board);
 void read_auction(const PbnGame& game, Board& board);
+// The contract of a board whose auction and tags don't tell it; what a tag alone tells must not be another.
+void take_known_contract(const PbnGame& game, const Contract& known, Board& board);
 void read_play(const PbnGame& game, Board& board);
 // Comments that stand before or behind auction and play.
 void read_comments(const PbnGame& game, Board& board);
 
+// The card that a section begins with; none where its first word is anything else.
+std::optional<Card> first_card_of(const PbnTag& section);
+
 // Adds a text at its place; an empty one is none.
 void add_text(Board& board, const Place& place, const PbnToken& text);
-// Joins the texts of each place, in the order in which they stand in the file.
+// Joins the texts of each place in the order in which they stand in the file, and puts the places in true order.
 void join_texts(Board& board);
 
 // What follows the letters of a call or a card: marks of quality are dropped, a note's number is kept.

@@ -38,7 +38,7 @@ int Play::tricks_of(Seat seat, std::optional<Suit> trump) const {
         all, [&](const Trick& trick) { return trick.complete() && same_side(trick.winner(trump), seat); }));
 }
 
-std::string Play::problem(const Deal& deal, std::optional<Suit> trump) const {
+std::optional<Fault> Play::fault(const Deal& deal, std::optional<Suit> trump) const {
     Deal hands = deal;
     std::size_t number = 0;
     for (const Trick& trick : tricks(trump)) {
@@ -49,12 +49,17 @@ std::string Play::problem(const Deal& deal, std::optional<Suit> trump) const {
             Hand& hand = hands.of(seat);
             const std::string where =
                 "card " + std::to_string(++number) + " (" + text_of(card) + "): " + letter_of(seat);
-            if (!hand.holds(card)) return where + " does not hold it";
-            if (card.suit != led && hand.holds(led)) return where + " does not follow suit";
+            if (!hand.holds(card)) return Fault{number, where + " does not hold it"};
+            if (card.suit != led && hand.holds(led)) return Fault{number, where + " does not follow suit"};
             hand.remove(card);
         }
     }
-    return {};
+    return std::nullopt;
+}
+
+std::string Play::problem(const Deal& deal, std::optional<Suit> trump) const {
+    const auto wrong = fault(deal, trump);
+    return wrong ? wrong->text : std::string();
 }
 
 Deal Play::rest_of(const Deal& deal) const {

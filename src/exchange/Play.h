@@ -27,6 +27,12 @@ struct Trick {
     std::optional<Card> card_of(Seat seat) const;
 };
 
+// A card of a play that is against the rules.
+struct Fault {
+    std::size_t card = 0;  // its number, from 1
+    std::string text{};
+};
+
 struct Play {
     Seat leader = Seat::North;
     std::vector<Card> cards{};  // at most 52
@@ -36,8 +42,10 @@ struct Play {
     std::vector<Trick> tricks(std::optional<Suit> trump) const;
     // Tricks won by a side, of the complete ones.
     int tricks_of(Seat seat, std::optional<Suit> trump) const;
-    // What is against the rules, with the number of the card, from 1: a card that its hand doesn't hold, or one that
-    // doesn't follow suit though the hand could. Empty for a legal play.
+    // The first card that its hand doesn't hold, or that doesn't follow suit though the hand could; none in a legal
+    // play.
+    std::optional<Fault> fault(const Deal& deal, std::optional<Suit> trump) const;
+    // What is wrong with that card, with its number; empty for a legal play.
     std::string problem(const Deal& deal, std::optional<Suit> trump) const;
     // The hands after the play.
     Deal rest_of(const Deal& deal) const;

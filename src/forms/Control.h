@@ -9,9 +9,9 @@
 
 namespace forms {
 
-inline constexpr Colour kFaceColour{0xF0F0F0};
-inline constexpr Colour kWindowColour{0xFFFFFF};
-inline constexpr Colour kTextColour{0x000000};
+inline constexpr base::Colour kFaceColour{0xF0F0F0};
+inline constexpr base::Colour kWindowColour{0xFFFFFF};
+inline constexpr base::Colour kTextColour{0x000000};
 
 // What a user can see or use on a form. The form owns it as a member; it registers itself with its container.
 // Positions and sizes are twips within the container, font sizes are points of Verdana.
@@ -60,8 +60,8 @@ public:
     Property<bool> Visible{*this, "Visible", true};
     Property<bool> Enabled{*this, "Enabled", true};
     Property<std::string> Tag{*this, "Tag"};
-    Property<Colour> BackColor{*this, "BackColor", kFaceColour};
-    Property<Colour> ForeColor{*this, "ForeColor", kTextColour};
+    Property<base::Colour> BackColor{*this, "BackColor", kFaceColour};
+    Property<base::Colour> ForeColor{*this, "ForeColor", kTextColour};
     Property<double> FontSize{*this, "FontSize", 8.25};
     Property<bool> FontBold{*this, "FontBold", false};
     Property<int> BorderStyle{*this, "BorderStyle", 0};
@@ -69,6 +69,10 @@ public:
     Property<bool> TabStop{*this, "TabStop", true};
     // What a screen reader says where the text on the control does not say it; empty for the text itself.
     Property<std::string> AccessibleName{*this, "AccessibleName"};
+    // True: a screen reader says it when it changes, wherever the keyboard is.
+    Property<bool> Spoken{*this, "Spoken", false};
+    // Stands beside the pointer when it rests on the control.
+    Property<std::string> ToolTipText{*this, "ToolTipText"};
 
     std::function<void()> Click;
     std::function<void()> GotFocus;

@@ -32,7 +32,7 @@ public:
     T& operator()(int index) const {
         const auto found = elements_.find(index);
         if (found == elements_.end()) {
-            throw Fout(FoutNummer::NoSuchArrayElement, name_ + "(" + std::to_string(index) + ")");
+            throw base::Fout(base::FoutNummer::NoSuchArrayElement, name_ + "(" + std::to_string(index) + ")");
         }
         return *found->second;
     }

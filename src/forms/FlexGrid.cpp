@@ -16,7 +16,7 @@ FlexGrid::FlexGrid(Container& container, std::string name, const Rect& place, in
 
 const FlexGrid::Cell& FlexGrid::cell(int row, int col) const {
     if (row < 0 || row >= rows_ || col < 0 || col >= cols_) {
-        throw Fout(FoutNummer::NoSuchRowOrColumn, std::to_string(row) + ", " + std::to_string(col));
+        throw base::Fout(base::FoutNummer::NoSuchRowOrColumn, std::to_string(row) + ", " + std::to_string(col));
     }
     return cells_[static_cast<std::size_t>(row) * static_cast<std::size_t>(cols_) + static_cast<std::size_t>(col)];
 }
@@ -28,7 +28,7 @@ void FlexGrid::SetText(const std::string& text) {
     changed();
 }
 
-void FlexGrid::SetCellBackColor(int row, int col, Colour colour) {
+void FlexGrid::SetCellBackColor(int row, int col, base::Colour colour) {
     at(row, col).colour = colour;
     changed();
 }

@@ -29,14 +29,14 @@ public:
 
     const std::string& Text() const { return cell(Row, Col).text; }
     void SetText(const std::string& text);
-    Colour CellBackColor() const { return cell(Row, Col).colour; }
-    void SetCellBackColor(Colour colour) { SetCellBackColor(Row, Col, colour); }
-    void SetCellBackColor(int row, int col, Colour colour);
+    base::Colour CellBackColor() const { return cell(Row, Col).colour; }
+    void SetCellBackColor(base::Colour colour) { SetCellBackColor(Row, Col, colour); }
+    void SetCellBackColor(int row, int col, base::Colour colour);
     void SetCellAlignment(CellAlignment alignment);
 
     struct Cell {
         std::string text;
-        Colour colour = kWindowColour;
+        base::Colour colour = kWindowColour;
         CellAlignment alignment = CellAlignment::Left;
     };
     const Cell& cell(int row, int col) const;

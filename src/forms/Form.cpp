@@ -27,14 +27,14 @@ bool Form::show_pending() const { return windows_.show_pending(*this); }
 
 Control* Form::find_control(const std::string& name, int index) const {
     const auto found = std::ranges::find_if(controls_, [&](const Control* control) {
-        return control->index() == index && equal_ignoring_case(control->name(), name);
+        return control->index() == index && base::equal_ignoring_case(control->name(), name);
     });
     return found == controls_.end() ? nullptr : *found;
 }
 
 Control& Form::control(const std::string& name, int index) const {
     Control* found = find_control(name, index);
-    if (!found) throw Fout(FoutNummer::NoSuchArrayElement, name);
+    if (!found) throw base::Fout(base::FoutNummer::NoSuchArrayElement, name);
     return *found;
 }
 
@@ -68,7 +68,7 @@ void Form::assign_window_state(forms::WindowState state) {
     if (state == WindowState()) return;
     if (WindowState() == WindowState::Normal) normal_place_ = {Left, Top, Width, Height};
     WindowState.store(state);
-    const Size screen = windows_.host().screen_size();
+    const Size screen = windows_.host().screen_size(*this);
     const Rect place = state == WindowState::Maximised ? Rect{0, 0, screen.width, screen.height} : normal_place_;
     if (state == WindowState::Minimised) return;
     Left = place.left;

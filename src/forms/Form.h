@@ -88,7 +88,7 @@ public:
     Property<double> Top{*this, "Top", 0};
     Property<double> Width;
     Property<double> Height;
-    Property<Colour> BackColor{*this, "BackColor", Colour{0xF0F0F0}};
+    Property<base::Colour> BackColor{*this, "BackColor", base::Colour{0xF0F0F0}};
     ActiveProperty<bool> Visible{*this, "Visible", false, [this](bool visible) { assign_visible(visible); }};
     // Maximising gives the form the size of the screen at once; a form that was normal gets its old place back.
     ActiveProperty<forms::WindowState> WindowState{*this, "WindowState", forms::WindowState::Normal,

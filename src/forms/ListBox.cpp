@@ -64,7 +64,7 @@ int ListBox::find(std::string_view text, Match match) const {
     sort_if_needed();
     const auto found = std::ranges::find_if(lines_, [&](const Line& line) {
         const std::string_view candidate = line.text;
-        return equal_ignoring_case(match == Match::Exact ? candidate : candidate.substr(0, text.size()), text);
+        return base::equal_ignoring_case(match == Match::Exact ? candidate : candidate.substr(0, text.size()), text);
     });
     return found == lines_.end() ? -1 : static_cast<int>(found - lines_.begin());
 }
@@ -86,12 +86,12 @@ void ListBox::select(Line& line, bool selected) {
 }
 
 void ListBox::assign_index(int index) {
-    if (index < -1 || index >= ListCount()) throw Fout(FoutNummer::InvalidValue, std::to_string(index));
+    if (index < -1 || index >= ListCount()) throw base::Fout(base::FoutNummer::InvalidValue, std::to_string(index));
     if (ListIndex.store(index) && Click) Click();
 }
 
 ListBox::Line& ListBox::line_at(int line) const {
-    if (line < 0 || line >= ListCount()) throw Fout(FoutNummer::SubscriptOutOfRange, std::to_string(line));
+    if (line < 0 || line >= ListCount()) throw base::Fout(base::FoutNummer::SubscriptOutOfRange, std::to_string(line));
     sort_if_needed();
     return lines_[static_cast<std::size_t>(line)];
 }

@@ -10,7 +10,7 @@ namespace {
 
 const std::string& entry(const std::vector<std::string>& entries, int index) {
     if (index < 0 || index >= static_cast<int>(entries.size())) {
-        throw Fout(FoutNummer::SubscriptOutOfRange, std::to_string(index));
+        throw base::Fout(base::FoutNummer::SubscriptOutOfRange, std::to_string(index));
     }
     return entries[static_cast<std::size_t>(index)];
 }

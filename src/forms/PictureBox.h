@@ -1,6 +1,11 @@
 #pragma once
 
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "forms/Control.h"
+#include "forms/Geometry.h"
 
 namespace forms {
 
@@ -17,6 +22,21 @@ public:
     Property<bool> Stretch{*this, "Stretch", false};
     // False: what lies behind shows through where there is no picture.
     Property<bool> Opaque{*this, "Opaque", true};
+
+    // Words on the surface itself, each in the middle of its place; all that stands on the box lies over them. They
+    // have the box's font and ForeColor, and only decorate: nobody can ask for them or hear them.
+    struct Inscription {
+        std::string text;
+        Rect place;
+    };
+    const std::vector<Inscription>& inscriptions() const { return inscriptions_; }
+    void inscribe(std::vector<Inscription> inscriptions) {
+        inscriptions_ = std::move(inscriptions);
+        changed();
+    }
+
+private:
+    std::vector<Inscription> inscriptions_;
 };
 
 }  // namespace forms

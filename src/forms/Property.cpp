@@ -11,7 +11,7 @@ namespace forms {
 
 const PropertyBase* PropertyOwner::find_property(const std::string& name) const {
     for (const PropertyBase* property = first_property_; property; property = property->next_) {
-        if (equal_ignoring_case(property->name(), name)) return property;
+        if (base::equal_ignoring_case(property->name(), name)) return property;
     }
     return nullptr;
 }
@@ -34,7 +34,7 @@ std::string property_text(double value) {
     return error == std::errc() ? std::string(digits.data(), end) : std::to_string(value);
 }
 
-std::string property_text(Colour value) {
+std::string property_text(base::Colour value) {
     std::array<char, 16> digits{};
     std::snprintf(digits.data(), digits.size(), "0x%06X", value.value);
     return digits.data();

@@ -59,7 +59,7 @@ private:
 std::string property_text(bool value);
 std::string property_text(int value);
 std::string property_text(double value);
-std::string property_text(Colour value);
+std::string property_text(base::Colour value);
 std::string property_text(const std::string& value);
 std::string property_text(const Picture& value);
 

@@ -5,7 +5,7 @@
 namespace forms {
 
 void VScrollBar::assign_value(int value) {
-    if (value < Min || value > Max) throw Fout(FoutNummer::InvalidValue, std::to_string(value));
+    if (value < Min || value > Max) throw base::Fout(base::FoutNummer::InvalidValue, std::to_string(value));
     if (Value.store(value) && Change) Change();
 }
 

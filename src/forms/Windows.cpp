@@ -68,7 +68,7 @@ void Windows::unload(Form& form) {
 
 Form* Windows::find(const std::string& name) const {
     const auto found =
-        std::ranges::find_if(forms_, [&](const auto& form) { return equal_ignoring_case(form->name(), name); });
+        std::ranges::find_if(forms_, [&](const auto& form) { return base::equal_ignoring_case(form->name(), name); });
     return found == forms_.end() ? nullptr : found->get();
 }
 

@@ -20,7 +20,8 @@ struct EndOfProgram {};
 class Host {
 public:
     virtual ~Host() = default;
-    virtual Size screen_size() const = 0;     // twips
+    // Twips. Of what the form can take on the display: a host may show forms at different sizes.
+    virtual Size screen_size(const Form& form) const = 0;
     virtual void dispatch_ended(Windows&) {}  // draw what changed
     virtual void repaint(Form&) {}            // the same at once, in the middle of a routine
     virtual void closing(Form&) {}            // the object is about to be destroyed

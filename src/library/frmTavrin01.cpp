@@ -5,19 +5,22 @@
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "services/Bas_Aftavrin.h"
+#include "services/Kleuren.h"
+
+namespace library {
 
 namespace {
 
+namespace kleuren = services::kleuren;
+
 constexpr forms::Size kInner{6945, 5085};
-constexpr Colour kGroen = Colour::rgb(0, 128, 0);
-constexpr Colour kRood = Colour::rgb(255, 0, 0);
 constexpr const char* kInstallatie = "tavrinupdate.exe";
 constexpr const char* kWerkmap = "C:\\";
 
 }  // namespace
 
-frmTavrin01::frmTavrin01(Programma& programma)
-    : Scherm(programma, "frmTavrin01", kInner, {.query_unload = "frmTavrin01 - Form - QueryUnload"}) {
+frmTavrin01::frmTavrin01(services::Programma& programma)
+    : services::Scherm(programma, "frmTavrin01", kInner, {.query_unload = "frmTavrin01 - Form - QueryUnload"}) {
     picLogo.Picture = {0, "logo"};
     picLogo.Opaque = false;
     imaDeMaker.Picture = {0, "maker"};
@@ -27,6 +30,7 @@ frmTavrin01::frmTavrin01(Programma& programma)
         opschrift->Alignment = forms::Alignment::Centre;
     for (forms::Label* klein : {&lblVersie, &lblCopyRight, &lblRVLX})
         klein->FontSize = 6.75;
+    lblRVLX.FontBold = true;
     lblVersie.AutoSize = true;
 
     cmdNieuwSpel.Click = [this] {
@@ -41,7 +45,7 @@ frmTavrin01::frmTavrin01(Programma& programma)
             Form_QueryUnload();
         });
     };
-    cmdAfsluiten.Click = [] { beeindig_programma(); };
+    cmdAfsluiten.Click = [] { services::beeindig_programma(); };
     cmdDownLoaden.Click = [this] { cmdDownLoaden_Click(); };
     cmdWissen.Click = [this] { cmdWissen_Click(); };
     chkSorteer.Click = [this] { chkSorteer_Click(); };
@@ -51,9 +55,9 @@ frmTavrin01::frmTavrin01(Programma& programma)
 void frmTavrin01::Form_Load() {
     Foutpad("frmTavrin01 - Form - Load", [&] {
         gedeeld.taalPrefix = 10;
-        if (programma.platform.another_instance_runs()) beeindig_programma();
+        if (programma.platform.another_instance_runs()) services::beeindig_programma();
         const std::string help = programma.pad("help.chm");
-        if (Bas_Aftavrin::BestandStatus(help) == 1) {
+        if (services::Bas_Aftavrin::BestandStatus(help) == 1) {
             windows().Help = [&platform = programma.platform, help] { platform.show_help(help); };
         }
         gedeeld.kaartRugId = resources::plaatje::kKaartRug;
@@ -62,7 +66,7 @@ void frmTavrin01::Form_Load() {
         centreer();
         cmdHerbeNoem.Enabled = false;
         std::string map = programma.pakketten();
-        Bas_Aftavrin::MaakPad(map);
+        services::Bas_Aftavrin::MaakPad(map);
         programma.ruim_resten_op();
         test_verbinding();
     });
@@ -92,10 +96,10 @@ void frmTavrin01::zet_opschriften() {
 void frmTavrin01::test_verbinding() {
     gedeeld.internetOk = false;
     try {
-        gedeeld.internetOk =
-            Bas_Aftavrin::Internetverbinding(programma) &&
-            programma.platform.download("http://" + Bas_Aftavrin::Server(programma) + "/tavrin/actueleversie.txt",
-                                        programma.pad("actueleversie.txt"));
+        gedeeld.internetOk = services::Bas_Aftavrin::Internetverbinding(programma) &&
+                             programma.platform.download(
+                                 "http://" + services::Bas_Aftavrin::Server(programma) + "/tavrin/actueleversie.txt",
+                                 programma.pad("actueleversie.txt"));
     } catch (const std::exception&) {  // No answer is an answer.
     }
     cmdDownLoaden.Enabled = gedeeld.internetOk;
@@ -105,32 +109,32 @@ void frmTavrin01::Form_Activate() {
     Foutpad("frmTavrin01 - Form - Activate", [&] {
         cmdFocus.SetFocus();
         BestaatRVLX();
-        const bool gevonden = !trimmed(RVLXPad).empty();
+        const bool gevonden = !base::trimmed(RVLXPad).empty();
         cmdNieuwSpel.Enabled = gevonden;
         cmdKaartenEditor.Enabled = gevonden;
         cmdImportExport.Enabled = true;
         lblRVLX.Caption = gevonden ? std::string() : LeesResString(Bericht::GeenRVLX);
-        lblRVLX.ForeColor = gevonden ? kGroen : kRood;
+        lblRVLX.ForeColor = gevonden ? kleuren::kGroen : kleuren::kRood;
         // These wait for a line to be chosen.
         cmdHerbeNoem.Enabled = false;
         cmdWissen.Enabled = false;
         cmdTavrin.Enabled = false;
-        Kaarten::ZetVariabelenOpNul(gedeeld);
+        cards::Kaarten::ZetVariabelenOpNul(gedeeld);
         lees_spellen();
         if (lstSpellen.ListCount() == 0) cmdKaartenEditor.Enabled = false;
-        Bas_Aftavrin::SluitAndereSchermen(programma);
+        services::Bas_Aftavrin::SluitAndereSchermen(programma);
     });
 }
 
 void frmTavrin01::BestaatRVLX() {
     Foutpad("frmTavrin01 - General - BestaatRVLX", [&] {
-        RVLXPad = Bas_Aftavrin::ZoekRVLX(programma);
+        RVLXPad = services::Bas_Aftavrin::ZoekRVLX(programma);
         cmdFocus.SetFocus();
     });
 }
 
 void frmTavrin01::lees_spellen() {
-    Kaarten::LeesSpellen(*this, lstSpellen, dirSpellen, programma.pakketten(), chkSorteer.Value);
+    cards::Kaarten::LeesSpellen(*this, lstSpellen, dirSpellen, programma.pakketten(), chkSorteer.Value);
 }
 
 void frmTavrin01::chkSorteer_Click() {
@@ -167,9 +171,10 @@ void frmTavrin01::cmdWissen_Click() {
         cmdHerbeNoem.Enabled = false;
         cmdTavrin.Enabled = false;
         filFiles.Path = programma.pakket(lstSpellen.Text());
-        const Answer antwoord = programma.platform.message_box(
-            box_style::kQuestion, Caption(), replaced(LeesResString(Bericht::SpelWissen), "~", lstSpellen.Text()));
-        if (antwoord == Answer::Yes) {
+        const platform::Answer antwoord =
+            programma.platform.message_box(platform::box_style::kQuestion, Caption(),
+                                           base::replaced(LeesResString(Bericht::SpelWissen), "~", lstSpellen.Text()));
+        if (antwoord == platform::Answer::Yes) {
             wis_spel();
         } else {
             lstSpellen.ListIndex = -1;
@@ -179,12 +184,12 @@ void frmTavrin01::cmdWissen_Click() {
 }
 
 void frmTavrin01::wis_spel() {
-    refuse_links(programma.pakketten(), filFiles.Path());
-    refuse_links_in(filFiles.Path(), "*");
-    remove_leftovers(filFiles.Path());
+    platform::refuse_links(programma.pakketten(), filFiles.Path());
+    platform::refuse_links_in(filFiles.Path(), "*");
+    platform::remove_leftovers(filFiles.Path());
     for (int i = 0; i < filFiles.ListCount(); ++i)
-        delete_file(join_path(filFiles.Path(), filFiles.List(i)));
-    remove_folder(filFiles.Path());
+        platform::delete_file(platform::join_path(filFiles.Path(), filFiles.List(i)));
+    platform::remove_folder(filFiles.Path());
     lees_spellen();
 }
 
@@ -192,11 +197,12 @@ void frmTavrin01::wis_spel() {
 void frmTavrin01::cmdDownLoaden_Click() {
     Foutpad("frmTavrin01 - cmdDownLoaden - Click", [&] {
         std::string map = programma.pad("Update");
-        Bas_Aftavrin::MaakPad(map);
-        const std::string installatie = path_text(find_case_blind(join_path(programma.pad("update"), kInstallatie)));
-        refuse_links(programma.pad("update"), installatie);
+        services::Bas_Aftavrin::MaakPad(map);
+        const std::string installatie =
+            platform::path_text(platform::find_case_blind(platform::join_path(programma.pad("update"), kInstallatie)));
+        platform::refuse_links(programma.pad("update"), installatie);
         // A leftover of length 0 stays: the download overwrites it.
-        if (Bas_Aftavrin::BestandStatus(installatie) == 1) delete_file(installatie);
+        if (services::Bas_Aftavrin::BestandStatus(installatie) == 1) platform::delete_file(installatie);
         if (!haal_installatie(installatie)) {
             meld_geen_update();
             Visible = true;
@@ -204,27 +210,29 @@ void frmTavrin01::cmdDownLoaden_Click() {
             return;
         }
         Visible = true;
-        programma.platform.message_box(box_style::kInformation, Caption(), LeesResString(Bericht::InstallatieStart));
+        programma.platform.message_box(platform::box_style::kInformation, Caption(),
+                                       LeesResString(Bericht::InstallatieStart));
         // One argument as a whole, its name included.
         programma.platform.open(installatie, "\"/p=" + programma.platform.program_folder() + "\"", kWerkmap);
-        beeindig_programma();
+        services::beeindig_programma();
     });
 }
 
 bool frmTavrin01::haal_installatie(const std::string& bestand) {
-    const Zolang zandloper(MousePointer, forms::MousePointer::Hourglass);
+    const base::Zolang zandloper(MousePointer, forms::MousePointer::Hourglass);
     Refresh();
-    return programma.platform.download("http://" + Bas_Aftavrin::Server(programma) + "/tavrin/" + kInstallatie,
-                                       bestand);
+    return programma.platform.download(
+        "http://" + services::Bas_Aftavrin::Server(programma) + "/tavrin/" + kInstallatie, bestand);
 }
 
 void frmTavrin01::meld_geen_update() {
-    const std::string bericht =
-        replaced(LeesResString(gedeeld.internetOk ? Bericht::GeenUpdateNaarWebsite : Bericht::GeenUpdate), "|", "\n");
-    const int stijl = gedeeld.internetOk ? box_style::kInformationYesNo : box_style::kInformation;
-    if (programma.platform.message_box(stijl, Caption(), bericht) != Answer::Yes) return;
+    const std::string bericht = base::replaced(
+        LeesResString(gedeeld.internetOk ? Bericht::GeenUpdateNaarWebsite : Bericht::GeenUpdate), "|", "\n");
+    const int stijl = gedeeld.internetOk ? platform::box_style::kInformationYesNo : platform::box_style::kInformation;
+    if (programma.platform.message_box(stijl, Caption(), bericht) != platform::Answer::Yes) return;
     programma.platform.open(
-        "https://" + Bas_Aftavrin::Server(programma) + "/download/download-software/zandolin-lomert", "", kWerkmap);
+        "https://" + services::Bas_Aftavrin::Server(programma) + "/download/download-software/zandolin-lomert", "",
+        kWerkmap);
 }
 
 void frmTavrin01::open_in_plaats(const char* plaats, const char* scherm) {
@@ -236,6 +244,8 @@ void frmTavrin01::open_in_plaats(const char* plaats, const char* scherm) {
 
 void frmTavrin01::Form_KeyUp(int key_code) {
     Foutpad("frmTavrin01 - Form - KeyUp", [&] {
-        if (key_code == forms::kKeyEscape) beeindig_programma();
+        if (key_code == forms::kKeyEscape) services::beeindig_programma();
     });
 }
+
+}  // namespace library

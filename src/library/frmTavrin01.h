@@ -11,14 +11,16 @@
 #include "forms/PictureBox.h"
 #include "services/Scherm.h"
 
+namespace library {
+
 // The main screen: the list of packages, and the way to every other screen. Choosing a line publishes the deal's
 // folder and name to the rest of the program.
 //
 // filFiles.Path is the folder that is to be deleted: cmdWissen_Click writes it, wis_spel reads it. chkSorteer.Caption,
 // what its next click does, is the order's only memory: chkSorteer_Click writes and reads it.
-class frmTavrin01 final : public Scherm {
+class frmTavrin01 final : public services::Scherm {
 public:
-    explicit frmTavrin01(Programma& programma);
+    explicit frmTavrin01(services::Programma& programma);
     void Form_Load() override;
     void Form_Activate() override;
     void Form_KeyUp(int key_code) override;
@@ -63,3 +65,5 @@ private:
 
     std::string RVLXPad;  // program-files folder that holds the companion; empty when it was not found
 };
+
+}  // namespace library

@@ -9,6 +9,8 @@
 #include "services/Bas_Aftavrin.h"
 #include "services/MSendInput.h"
 
+namespace library {
+
 namespace {
 
 constexpr forms::Size kInner{4005, 6735};
@@ -17,22 +19,22 @@ constexpr int kHoogsteNummer = 999;
 constexpr const char* kSelecteerTotEinde = "+{END}";
 
 // "007" of 7; "234" of 1234.
-std::string drie_cijfers(long long nummer) { return right(std::to_string(1000 + nummer), 3); }
+std::string drie_cijfers(long long nummer) { return base::right(std::to_string(1000 + nummer), 3); }
 
 // The value of a number, or of its last digits where it has more than one needs for drie_cijfers.
 int achterste_cijfers(const std::string& tekst) {
     constexpr std::size_t kGenoeg = 9;
-    std::string nummer(number_part(tekst));
+    std::string nummer(base::number_part(tekst));
     if (nummer.size() > kGenoeg) nummer.erase(1, nummer.size() - kGenoeg);  // what stays in front may be the sign
-    return numeric_value(nummer);
+    return base::numeric_value(nummer);
 }
 
-int laatste_drie(const std::string& regel) { return numeric_value(right(regel, 3)); }
+int laatste_drie(const std::string& regel) { return base::numeric_value(base::right(regel, 3)); }
 
 // All occurrences, in whatever case they stand.
 std::string vervangen(const std::string& tekst, const std::string& oud, const std::string& nieuw) {
-    const std::string klein = lower_case(tekst);
-    const std::string gezocht = lower_case(oud);
+    const std::string klein = base::lower_case(tekst);
+    const std::string gezocht = base::lower_case(oud);
     std::string resultaat;
     std::size_t vanaf = 0;
     for (std::size_t at = klein.find(gezocht); at != std::string::npos; at = klein.find(gezocht, vanaf)) {
@@ -44,11 +46,11 @@ std::string vervangen(const std::string& tekst, const std::string& oud, const st
 
 }  // namespace
 
-frmTavrin04::frmTavrin04(Programma& programma)
-    : Scherm(programma, "frmTavrin04", kInner,
-             {.key_up = "frmTavrin04 - Form - KeyUp",
-              .terug = "frmTavrin04 - cmdTerug - Click",
-              .query_unload = "frmTavrin04 - Form - QueryUnload"}) {
+frmTavrin04::frmTavrin04(services::Programma& programma)
+    : services::Scherm(programma, "frmTavrin04", kInner,
+                       {.key_up = "frmTavrin04 - Form - KeyUp",
+                        .terug = "frmTavrin04 - cmdTerug - Click",
+                        .query_unload = "frmTavrin04 - Form - QueryUnload"}) {
     for (forms::VScrollBar* balk : {&vscrSpelNummer, &vscrEigenSpelnummer}) {
         balk->Min = -1;
         balk->Max = kHoogsteNummer + 1;
@@ -119,7 +121,7 @@ int frmTavrin04::voorstel() {
 }
 
 void frmTavrin04::vul_nummers(int voorgesteld) {
-    const Zolang laadt(bezigMetLaden, true);
+    const base::Zolang laadt(bezigMetLaden, true);
     for (int nummer = kHoogsteNummer; nummer >= 1; --nummer) {
         lstSpelnummers.AddItem(drie_cijfers(nummer));
         if (nummer != voorgesteld) continue;
@@ -141,7 +143,7 @@ void frmTavrin04::Form_Activate() {
 // The number stands selected, so that typing replaces it.
 void frmTavrin04::naar_nummer() {
     txtSpelNummer.SetFocus();
-    MSendInput::VerstuurToetsen(programma, kSelecteerTotEinde, false);
+    services::MSendInput::VerstuurToetsen(programma, kSelecteerTotEinde, false);
 }
 
 void frmTavrin04::LeesAfTavrinSpellen() {
@@ -162,7 +164,7 @@ void frmTavrin04::lstAfTavrin_Click() {
 void frmTavrin04::nummer_veranderd(const Reeks& reeks) {
     Foutpad(reeks.plaats_van_nummer, [&] {
         if (maaktLeeg) return;
-        const bool ingevuld = !trimmed(reeks.nummer.Text()).empty();
+        const bool ingevuld = !base::trimmed(reeks.nummer.Text()).empty();
         maak_leeg(reeks.andere);
         cmdHerbenoem.Enabled = ingevuld;
         reeks.andere.Enabled = !ingevuld;
@@ -187,7 +189,7 @@ void frmTavrin04::balk_verschoven(const Reeks& reeks) {
 
 // Its change has no say: the number that was just given stands.
 void frmTavrin04::maak_leeg(forms::TextBox& nummer) {
-    const Zolang maakt(maaktLeeg, true);
+    const base::Zolang maakt(maaktLeeg, true);
     nummer.Text = "";
 }
 
@@ -197,14 +199,16 @@ void frmTavrin04::cmdHerbenoem_Click() {
         const std::size_t dubbele_punt = opschrift.find(": ");
         cmdHerbenoem.Enabled = false;
         if (dubbele_punt == std::string::npos) return;
-        const std::string oud = trimmed(opschrift.substr(dubbele_punt + 2));
+        const std::string oud = base::trimmed(opschrift.substr(dubbele_punt + 2));
         const std::string nieuw = nieuwe_naam();
-        if (Bas_Aftavrin::GetListBoxIndex(programma, lstAfTavrin, nieuw, false) == -1) {
+        if (services::Bas_Aftavrin::GetListBoxIndex(programma, lstAfTavrin, nieuw, false) == -1) {
             herbenoem(oud, nieuw);
             return;
         }
-        const std::string bericht = replaced(replaced(LeesResString(Bericht::NummerBestaatAl), "+", nieuw), "~", oud);
-        programma.platform.message_box(box_style::kInformation, Caption(), replaced(bericht, "|", "\n"));
+        const std::string bericht =
+            base::replaced(base::replaced(LeesResString(Bericht::NummerBestaatAl), "+", nieuw), "~", oud);
+        programma.platform.message_box(platform::box_style::kInformation, Caption(),
+                                       base::replaced(bericht, "|", "\n"));
         naar_nummer();
     });
 }
@@ -217,16 +221,20 @@ std::string frmTavrin04::nieuwe_naam() const {
 
 // lblOudNummer keeps the old name, whose folder is gone from here on: another rename on this visit fails.
 void frmTavrin04::herbenoem(const std::string& oud, const std::string& nieuw) {
-    refuse_links(programma.pakketten(), programma.pakket(oud));
-    refuse_links_in(programma.pakket(oud), "*.txt");
-    rename_path(programma.pakket(oud), programma.pakket(nieuw));
+    platform::refuse_links(programma.pakketten(), programma.pakket(oud));
+    platform::refuse_links_in(programma.pakket(oud), "*.txt");
+    platform::rename_path(programma.pakket(oud), programma.pakket(nieuw));
     filSpellen.Pattern = "*.txt";
     filSpellen.Path = programma.pakket(nieuw);
     for (int i = 0; i < filSpellen.ListCount(); ++i) {
         const std::string& naam = filSpellen.List(i);
         const std::string andere = vervangen(naam, oud, nieuw);
-        if (andere != naam) rename_path(join_path(filSpellen.Path(), naam), join_path(filSpellen.Path(), andere));
+        if (andere != naam)
+            platform::rename_path(platform::join_path(filSpellen.Path(), naam),
+                                  platform::join_path(filSpellen.Path(), andere));
     }
     LeesAfTavrinSpellen();
     txtSpelNummer.Text = "";
 }
+
+}  // namespace library

@@ -11,6 +11,8 @@
 #include "forms/VScrollBar.h"
 #include "services/Scherm.h"
 
+namespace library {
+
 // Gives the deal chosen on the main screen another number: its folder and every text file in it get the new name.
 //
 // What controls remember, beside what they show:
@@ -18,9 +20,9 @@
 //   control              holds                         written by    read by
 //   lblOudNummer.Caption the old name, behind ": "     Form_Load     cmdHerbenoem_Click
 //   lstSpelnummers       "999" down to "001"           vul_nummers   balk_verschoven
-class frmTavrin04 final : public Scherm {
+class frmTavrin04 final : public services::Scherm {
 public:
-    explicit frmTavrin04(Programma& programma);
+    explicit frmTavrin04(services::Programma& programma);
     void Form_Load() override;
     void Form_Activate() override;
 
@@ -70,3 +72,5 @@ private:
     bool bezigMetLaden = false;
     bool maaktLeeg = false;
 };
+
+}  // namespace library

@@ -7,6 +7,8 @@
 #include "services/Bas_Aftavrin.h"
 #include "services/Drives.h"
 
+namespace library {
+
 namespace {
 
 constexpr forms::Size kInner{10515, 6885};
@@ -16,11 +18,11 @@ constexpr std::size_t kTegelijk = 100;  // deals that are flushed together
 
 }  // namespace
 
-frmTavrin07::frmTavrin07(Programma& programma)
-    : Scherm(programma, "frmTavrin07", kInner,
-             {.key_up = "frmTavrin07 - Form - KeyUp",
-              .terug = "frmTavrin07 - cmdTerug - Click",
-              .query_unload = "frmTavrin07 - Form - QueryUnload"}) {
+frmTavrin07::frmTavrin07(services::Programma& programma)
+    : services::Scherm(programma, "frmTavrin07", kInner,
+                       {.key_up = "frmTavrin07 - Form - KeyUp",
+                        .terug = "frmTavrin07 - cmdTerug - Click",
+                        .query_unload = "frmTavrin07 - Form - QueryUnload"}) {
     for (const Kant* kant : {&exporteer, &importeer})
         stel_kant_in(*kant);
     cmdCheckVoorUSB.Visible = false;
@@ -42,7 +44,7 @@ void frmTavrin07::Form_Load() {
         zet_opschriften();
         zet_buiten_beeld(cmdFocus);
         std::string map = programma.pakketten();
-        Bas_Aftavrin::MaakPad(map);
+        services::Bas_Aftavrin::MaakPad(map);
         zoek_stick();
         LeesExporteer(exporteer);
         centreer();
@@ -81,11 +83,12 @@ void frmTavrin07::Form_Activate() {
 
 // Takes the first stick among the drives. Without one the frames keep the line that they showed.
 bool frmTavrin07::zoek_stick() {
-    Bas_Aftavrin::DisplyDriveTypes(programma, lstDriveType, lstDriveNaam, Bas_Aftavrin::GetDriveStrings(programma));
+    services::Bas_Aftavrin::DisplyDriveTypes(programma, lstDriveType, lstDriveNaam,
+                                             services::Bas_Aftavrin::GetDriveStrings(programma));
     usbDrive.clear();
     for (int i = 0; i < lstDriveNaam.ListCount(); ++i) {
         const std::string& regel = lstDriveNaam.List(i);
-        if (lower_case(regel).find(kMerkVanStick) == std::string::npos) continue;
+        if (base::lower_case(regel).find(kMerkVanStick) == std::string::npos) continue;
         lblUSBDrive.Caption = regel;
         usbDrive = regel;
         fraImporteer.Caption = LeesResString(Bericht::ImporteerVan) + " " + regel;
@@ -95,17 +98,17 @@ bool frmTavrin07::zoek_stick() {
 }
 
 void frmTavrin07::meld_geen_stick() {
-    programma.platform.message_box(box_style::kInformation, Caption(), LeesResString(Bericht::GeenUSBDrive));
+    programma.platform.message_box(platform::box_style::kInformation, Caption(), LeesResString(Bericht::GeenUSBDrive));
 }
 
 std::string frmTavrin07::stick() const {
     std::string stick = lstDriveType.List(lstDriveNaam.find(usbDrive, forms::Match::Exact));
-    if (stick.ends_with(kPathSeparator)) stick.pop_back();
+    if (stick.ends_with(platform::kPathSeparator)) stick.pop_back();
     return stick;
 }
 
 std::string frmTavrin07::stick_map() const {
-    return usbDrive.empty() ? std::string() : join_path(stick(), kMapOpStick);
+    return usbDrive.empty() ? std::string() : platform::join_path(stick(), kMapOpStick);
 }
 
 std::string frmTavrin07::map_van(const Kant& kant) const {
@@ -119,9 +122,9 @@ void frmTavrin07::LeesExporteer(const Kant& kant) {
         kant.lijst.Clear();
         kant.knop.Enabled = false;
         if (map.empty()) return;
-        if (&kant == &importeer) refuse_links(stick(), map);
+        if (&kant == &importeer) platform::refuse_links(stick(), map);
         kant.mappen.Path = map;
-        vul_met_mappen(kant.lijst, kant.mappen, kant.sorteer.Value);
+        services::vul_met_mappen(kant.lijst, kant.mappen, kant.sorteer.Value);
     });
 }
 
@@ -191,8 +194,8 @@ void frmTavrin07::knop_Click(const Kant& kant) {
 void frmTavrin07::kopieer_selectie(const Kant& kant, const Kant& overkant) {
     const std::string doel = map_van(overkant);
     std::string pad = doel;
-    Bas_Aftavrin::MaakPad(pad);
-    Copies kopieen;
+    services::Bas_Aftavrin::MaakPad(pad);
+    platform::Copies kopieen;
     std::vector<int> geschreven;
     const auto maak_af = [&] {
         const std::vector<int> regels = std::exchange(geschreven, {});
@@ -219,17 +222,20 @@ void frmTavrin07::kopieer_selectie(const Kant& kant, const Kant& overkant) {
 
 // Nothing is written through a link, and nothing read through one on the stick: a stranger's stick leads nowhere. The
 // deals of this installation may lie where the user wants them.
-void frmTavrin07::kopieer_spel(const std::string& spel, const Kant& kant, const Kant& overkant, Copies& kopieen) {
+void frmTavrin07::kopieer_spel(const std::string& spel, const Kant& kant, const Kant& overkant,
+                               platform::Copies& kopieen) {
     const bool inlezen = &kant == &importeer;
-    const std::string van = join_path(map_van(kant), spel);
-    const std::string naar = join_path(map_van(overkant), spel);
-    if (inlezen) refuse_links(stick(), van);
-    refuse_links(inlezen ? programma.pakketten() : stick(), naar);
+    const std::string van = platform::join_path(map_van(kant), spel);
+    const std::string naar = platform::join_path(map_van(overkant), spel);
+    if (inlezen) platform::refuse_links(stick(), van);
+    platform::refuse_links(inlezen ? programma.pakketten() : stick(), naar);
     std::string pad = naar;
-    Bas_Aftavrin::MaakPad(pad);
+    services::Bas_Aftavrin::MaakPad(pad);
     filFiles.Path = van;
     std::vector<std::string> bestanden;
     for (int i = 0; i < filFiles.ListCount(); ++i)
         bestanden.push_back(filFiles.List(i));
-    kopieen.add_folder(van, bestanden, naar, inlezen ? Links::Refuse : Links::Follow);
+    kopieen.add_folder(van, bestanden, naar, inlezen ? platform::Links::Refuse : platform::Links::Follow);
 }
+
+}  // namespace library

@@ -9,7 +9,11 @@
 #include "forms/ListBox.h"
 #include "services/Scherm.h"
 
+namespace platform {
 class Copies;
+}
+
+namespace library {
 
 // Copies deals to a USB stick and from it. The left half lists the deals of this program, the right half those in the
 // folder QVT_Spellen of the stick; a deal is copied as a folder with all its files.
@@ -21,9 +25,9 @@ class Copies;
 //                              for each
 //   chkSelecteer...Caption     what its next click does            chkSelecteer_Click      the same
 //   chkSorteer...Caption       the same                            chkSorteer_Click        the same
-class frmTavrin07 final : public Scherm {
+class frmTavrin07 final : public services::Scherm {
 public:
-    explicit frmTavrin07(Programma& programma);
+    explicit frmTavrin07(services::Programma& programma);
     void Form_Load() override;
     void Form_Activate() override;
 
@@ -101,8 +105,10 @@ private:
     void chkSorteer_Click(const Kant& kant);
     void knop_Click(const Kant& kant);
     void kopieer_selectie(const Kant& kant, const Kant& overkant);
-    void kopieer_spel(const std::string& spel, const Kant& kant, const Kant& overkant, Copies& kopieen);
+    void kopieer_spel(const std::string& spel, const Kant& kant, const Kant& overkant, platform::Copies& kopieen);
     void cmdCheckVoorUSB_Click();
 
     std::string usbDrive;  // the stick's line of lstDriveNaam; empty when there is none
 };
+
+}  // namespace library

@@ -7,6 +7,8 @@
 #include <cstdio>
 #include <optional>
 
+namespace platform {
+
 namespace {
 
 // Code points of 0x80 to 0x9F; the five bytes that the code page leaves free stand for themselves.
@@ -149,3 +151,36 @@ std::string name_bytes(std::string_view text) {
     }
     return bytes;
 }
+
+std::u16string utf16_of(std::string_view bytes) {
+    constexpr char32_t kReplacement = 0xFFFD;
+    std::u16string units;
+    for (std::size_t at = 0; at < bytes.size();) {
+        const char32_t point = next_code_point(bytes, at);
+        if (point >= 0x110000) {
+            units += static_cast<char16_t>(kReplacement);
+        } else if (point >= 0x10000) {
+            units += static_cast<char16_t>(0xD800U + ((point - 0x10000U) >> 10U));
+            units += static_cast<char16_t>(0xDC00U + (point & 0x3FFU));
+        } else {
+            units += static_cast<char16_t>(point);
+        }
+    }
+    return units;
+}
+
+std::string bytes_of_utf16(std::u16string_view units) {
+    const auto is_half = [&](std::size_t at, char16_t first) {
+        return at < units.size() && (units[at] & 0xFC00U) == first;
+    };
+    std::string bytes;
+    for (std::size_t at = 0; at < units.size(); ++at) {
+        char32_t point = units[at];
+        if (is_half(at, 0xD800) && is_half(at + 1, 0xDC00))
+            point = 0x10000U + ((point & 0x3FFU) << 10U) + (units[++at] & 0x3FFU);
+        append_utf8(bytes, point);
+    }
+    return bytes;
+}
+
+}  // namespace platform

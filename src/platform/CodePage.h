@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+namespace platform {
+
 // Inside the program a text is Windows-1252, one byte a character; at the edges, for file names and the screen, UTF-8.
 
 std::string to_utf8(std::string_view text);
@@ -15,3 +17,10 @@ std::string from_utf8(std::string_view text);
 // such a mark is itself one, "{7B}".
 std::string name_text(std::string_view bytes);
 std::string name_bytes(std::string_view text);
+
+// UTF-8 as UTF-16 and back, for a system whose names are such. Half a pair that stands alone, which a name may hold, is
+// kept: as if it were a code point.
+std::u16string utf16_of(std::string_view bytes);
+std::string bytes_of_utf16(std::u16string_view units);
+
+}  // namespace platform

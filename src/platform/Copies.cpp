@@ -1,19 +1,20 @@
 #include "platform/Copies.h"
 
-#include <fcntl.h>
-
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
-#include <system_error>
 #include <utility>
 
 #include "base/Fout.h"
 #include "base/Text.h"
 #include "platform/CodePage.h"
+#include "platform/Failure.h"
 #include "platform/FileBeside.h"
+#include "platform/OpenFolder.h"
 #include "platform/Paths.h"
 #include "platform/SystemCalls.h"
+
+namespace platform {
 
 namespace fs = std::filesystem;
 
@@ -21,14 +22,9 @@ namespace {
 
 constexpr std::size_t kPart = 65536;  // bytes that are copied at a time
 
-struct CloseFolder {
-    void operator()(DIR* folder) const { closedir(folder); }
-};
-
-[[noreturn]] void fail(const fs::path& path) {
-    throw Fout::from({errno, std::generic_category()}, path_text(path.filename()));
+[[noreturn]] void refuse(const fs::path& path) {
+    throw base::Fout(base::FoutNummer::PathAccess, path_text(path.filename()));
 }
-[[noreturn]] void refuse(const fs::path& path) { throw Fout(FoutNummer::PathAccess, path_text(path.filename())); }
 
 struct Entry {
     std::string bytes;  // its name in the folder
@@ -38,21 +34,19 @@ struct Entry {
 using Entries = std::multimap<std::string, Entry>;
 
 Entries entries_of(const fs::path& folder) {
-    const std::unique_ptr<DIR, CloseFolder> open(system_calls::open_folder(folder.c_str()));
-    if (!open && errno == ENOENT) throw Fout(FoutNummer::PathNotFound, path_text(folder.filename()));
-    if (!open) fail(folder);
+    OpenFolder open(folder);
+    if (!open.there()) throw base::Fout(base::FoutNummer::PathNotFound, path_text(folder.filename()));
     Entries entries;
-    while (const dirent* entry = system_calls::read_folder(open.get(), folder.c_str())) {
-        const char* name = static_cast<const char*>(entry->d_name);
-        entries.emplace(lower_case(name_text(name)), Entry{name, entry->d_type == DT_LNK});
+    while (const system_calls::Entry* entry = open.next()) {
+        entries.emplace(base::lower_case(name_text(entry->name)),
+                        Entry{std::string(entry->name), entry->kind == system_calls::Kind::Link});
     }
-    if (errno != 0) fail(folder);
     return entries;
 }
 
 // The entry of that very name, otherwise the first that differs in case only; null if there is none.
 const Entry* find(const Entries& entries, const std::string& name) {
-    const auto [first, end] = entries.equal_range(lower_case(name));
+    const auto [first, end] = entries.equal_range(base::lower_case(name));
     const std::string exact = name_bytes(name);
     const auto same = std::find_if(first, end, [&](const auto& entry) { return entry.second.bytes == exact; });
     if (same != end) return &same->second;
@@ -61,11 +55,11 @@ const Entry* find(const Entries& entries, const std::string& name) {
 
 Target target_of(const fs::path& folder, const Entries& entries, const std::string& name) {
     const Entry* there = find(entries, name);
-    Target target{folder / (there ? there->bytes : name_bytes(name))};
+    Target target{folder / path_of(there ? there->bytes : name_bytes(name))};
     if (!there) return target;
-    struct stat about {};
-    if (system_calls::link_status(target.path.c_str(), about) != 0) fail(target.path);
-    if (!S_ISREG(about.st_mode)) refuse(target.path);  // a link too
+    system_calls::About about;
+    if (system_calls::link_status(target.path, about) != 0) fail(errno, target.path);
+    if (about.kind != system_calls::Kind::File) refuse(target.path);  // a link too
     target.about = about;
     return target;
 }
@@ -74,6 +68,7 @@ void copy(OpenFile& source, FileBeside& target) {
     std::string part(kPart, '\0');
     while (const std::size_t got = source.read(part.data(), part.size()))
         target.write(std::string_view(part).substr(0, got));
+    target.flush_with_device();
     target.close();
 }
 
@@ -90,23 +85,24 @@ void Copies::add_folder(std::string_view from, const std::vector<std::string>& n
     const Entries targets = entries_of(target_folder);
     for (const std::string& name : names) {
         const Entry* source = find(sources, name);
-        if (!source) throw Fout(FoutNummer::FileNotFound, name);
-        if (source->link && links_in_from == Links::Refuse) refuse(source->bytes);
+        if (!source) throw base::Fout(base::FoutNummer::FileNotFound, name);
+        if (source->link && links_in_from == Links::Refuse) refuse(path_of(source->bytes));
     }
     remove_leftovers(to);
     std::vector<std::unique_ptr<FileBeside>> added;
     for (const std::string& name : names) {
-        const fs::path path = source_folder / find(sources, name)->bytes;
-        struct stat about {};
-        if (system_calls::status(path.c_str(), about) != 0) fail(path);
-        if (!S_ISREG(about.st_mode)) refuse(path);
-        OpenFile source(path, O_RDONLY | (links_in_from == Links::Refuse ? O_NOFOLLOW : 0));
+        const fs::path path = source_folder / path_of(find(sources, name)->bytes);
+        system_calls::About about;
+        if (system_calls::status(path, about) != 0) fail(errno, path);
+        if (about.kind != system_calls::Kind::File) refuse(path);
+        OpenFile source(path, links_in_from == Links::Refuse ? system_calls::OpenFor::ReadingNoLink
+                                                             : system_calls::OpenFor::Reading);
         Target target = target_of(target_folder, targets, name);
         const bool itself =
-            target.about && target.about->st_dev == about.st_dev && target.about->st_ino == about.st_ino;
+            target.about && target.about->device == about.device && target.about->number == about.number;
         if (itself) continue;
         FileBeside& beside = *added.emplace_back(std::make_unique<FileBeside>(std::move(target)));
-        devices_.emplace(beside.device(), target_folder.string());
+        devices_.emplace(beside.device(), target_folder);
         copy(source, beside);
     }
     std::ranges::move(added, std::back_inserter(files_));
@@ -121,5 +117,7 @@ void Copies::finish() {
 
 void Copies::flush() {
     for (const auto& [device, folder] : devices_)
-        OpenFile(folder, O_RDONLY | O_DIRECTORY).flush_device();
+        flush_device(folder);
 }
+
+}  // namespace platform

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <filesystem>
 #include <map>
 #include <memory>
 #include <string>
@@ -7,6 +9,8 @@
 #include <vector>
 
 #include "platform/Files.h"
+
+namespace platform {
 
 class FileBeside;
 
@@ -31,5 +35,7 @@ public:
 
 private:
     std::vector<std::unique_ptr<FileBeside>> files_;
-    std::map<unsigned long, std::string> devices_;  // of all targets, with a folder on each
+    std::map<std::uint64_t, std::filesystem::path> devices_;  // of all targets, with a folder on each
 };
+
+}  // namespace platform

@@ -2,10 +2,13 @@
 
 #include <chrono>
 #include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
+
+namespace platform {
 
 class OpenFile;
 
@@ -54,11 +57,14 @@ void copy_file(std::string_view from, std::string_view to);
 // Writes beside the file, flushes to the disk, and renames over it with its mode: whatever happens, the old file or the
 // new one is there whole. A file that may not be written is refused (70). The file beside has a hidden name of its own.
 void replace_file(std::string_view path, std::string_view bytes);
-// Removes files beside that were left behind in the folder, if they are older than that.
+// Removes files beside that were left behind in the folder, and folders beside with their files, if they are older than
+// that.
 using FileTime = std::chrono::system_clock::time_point;
 void remove_leftovers(std::string_view folder, FileTime older_than = FileTime::max());
 
 void delete_file(std::string_view path);
+// A folder and the files in it; one that holds folders is a failure (75 or 58).
+void remove_with_files(const std::filesystem::path& folder);
 void remove_folder(std::string_view path);  // an empty one
 // Of a file or a folder; a target that exists is failure 58.
 void rename_path(std::string_view from, std::string_view to);
@@ -71,7 +77,9 @@ void refuse_links(std::string_view root, std::string_view path);
 // The same where a link in the folder has any name of a pattern, a hidden one too. A folder that is not there has none.
 void refuse_links_in(std::string_view folder, std::string_view pattern);
 
-// Names of the subfolders, and of the plain files that are not hidden; in ascending order without regard
-// to case. `pattern` is "*" or "*.ending".
+// Names of the subfolders, without those that are made beside others, and of the plain files that are not hidden; in
+// ascending order without regard to case. `pattern` is "*" or "*.ending".
 std::vector<std::string> subfolders_of(std::string_view folder);
 std::vector<std::string> files_of(std::string_view folder, std::string_view pattern);
+
+}  // namespace platform

@@ -6,18 +6,20 @@
 #include "base/Text.h"
 #include "platform/Files.h"
 
+namespace platform {
+
 namespace {
 
 bool begins_section(const std::string& line, std::string_view section) {
-    const std::string text = trimmed(line);
-    return text.starts_with('[') && equal_ignoring_case(text, "[" + std::string(section) + "]");
+    const std::string text = base::trimmed(line);
+    return text.starts_with('[') && base::equal_ignoring_case(text, "[" + std::string(section) + "]");
 }
 
-bool begins_any_section(const std::string& line) { return trimmed(line).starts_with('['); }
+bool begins_any_section(const std::string& line) { return base::trimmed(line).starts_with('['); }
 
 bool is_setting(const std::string& line, std::string_view key) {
     const std::size_t equals = line.find('=');
-    return equals != std::string::npos && equal_ignoring_case(trimmed(line.substr(0, equals)), key);
+    return equals != std::string::npos && base::equal_ignoring_case(base::trimmed(line.substr(0, equals)), key);
 }
 
 std::string unquoted(std::string value) {
@@ -38,9 +40,16 @@ std::vector<std::string> lines_of(std::string_view file) {
 std::vector<std::string> lines_or_none(std::string_view file) {
     try {
         return lines_of(file);
-    } catch (const Fout&) {
+    } catch (const base::Fout&) {
         return {};
     }
+}
+
+void replace_lines(std::string_view file, const std::vector<std::string>& lines) {
+    std::string bytes;
+    for (const std::string& line : lines)
+        bytes.append(line).append("\r\n");
+    replace_file(file, bytes);
 }
 
 }  // namespace
@@ -51,7 +60,7 @@ std::string read_setting(std::string_view file, std::string_view section, std::s
         if (begins_any_section(line)) {
             inside = begins_section(line, section);
         } else if (inside && is_setting(line, key)) {
-            return unquoted(trimmed(line.substr(line.find('=') + 1)));
+            return unquoted(base::trimmed(line.substr(line.find('=') + 1)));
         }
     }
     return {};
@@ -69,7 +78,7 @@ void write_setting(std::string_view file, std::string_view section, std::string_
     }
     std::size_t behind_last = ++at;  // behind the section's last line that is not blank
     while (at < lines.size() && !begins_any_section(lines[at]) && !is_setting(lines[at], key)) {
-        if (!trimmed(lines[at++]).empty()) behind_last = at;
+        if (!base::trimmed(lines[at++]).empty()) behind_last = at;
     }
     if (at < lines.size() && is_setting(lines[at], key) && !begins_any_section(lines[at])) {
         lines[at] = setting;
@@ -77,8 +86,17 @@ void write_setting(std::string_view file, std::string_view section, std::string_
         lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(behind_last), setting);
     }
 
-    std::string bytes;
-    for (const std::string& line : lines)
-        bytes.append(line).append("\r\n");
-    replace_file(file, bytes);
+    replace_lines(file, lines);
 }
+
+void remove_setting(std::string_view file, std::string_view section, std::string_view key) {
+    std::vector<std::string> lines = lines_of(file);
+    bool inside = false;
+    std::erase_if(lines, [&](const std::string& line) {
+        if (begins_any_section(line)) inside = begins_section(line, section);
+        return inside && !begins_any_section(line) && is_setting(line, key);
+    });
+    replace_lines(file, lines);
+}
+
+}  // namespace platform

@@ -1,12 +1,13 @@
 #include "platform/OpenFile.h"
 
 #include <cerrno>
-#include <system_error>
 #include <utility>
 
 #include "base/Fout.h"
+#include "platform/Failure.h"
 #include "platform/Paths.h"
-#include "platform/SystemCalls.h"
+
+namespace platform {
 
 namespace {
 
@@ -17,58 +18,58 @@ bool unsupported(int error) { return error == EINVAL || error == ENOSYS || error
 
 }  // namespace
 
-OpenFile::OpenFile(std::filesystem::path path, int flags, mode_t mode)
-    : path_(std::move(path)), file_(system_calls::open(path_.c_str(), flags, mode)) {
+OpenFile::OpenFile(std::filesystem::path path, system_calls::OpenFor purpose, unsigned mode)
+    : path_(std::move(path)), file_(system_calls::open(path_, purpose, mode)) {
     if (file_ >= 0) return;
-    if (errno == ENOENT) throw Fout(FoutNummer::PathNotFound, path_text(path_.filename()));
-    fail();
+    if (errno == ENOENT) throw base::Fout(base::FoutNummer::PathNotFound, path_text(path_.filename()));
+    fail(errno, path_);
 }
 
 OpenFile::~OpenFile() {
-    if (file_ != kClosed) system_calls::close(file_, path_.c_str());
+    if (file_ != kClosed) system_calls::close(file_, path_);
 }
 
 std::size_t OpenFile::read(char* bytes, std::size_t count) {
-    ssize_t got = 0;
+    std::ptrdiff_t got = 0;
     do {
-        got = system_calls::read(file_, path_.c_str(), bytes, count);
+        got = system_calls::read(file_, path_, bytes, count);
     } while (got < 0 && errno == EINTR);
-    if (got < 0) fail();
+    if (got < 0) fail(errno, path_);
     return static_cast<std::size_t>(got);
 }
 
 void OpenFile::write(std::string_view bytes) {
     while (!bytes.empty()) {
-        const ssize_t written = system_calls::write(file_, path_.c_str(), bytes.data(), bytes.size());
-        if (written < 0 && errno != EINTR) fail();
+        const std::ptrdiff_t written = system_calls::write(file_, path_, bytes.data(), bytes.size());
+        if (written < 0 && errno != EINTR) fail(errno, path_);
         if (written > 0) bytes.remove_prefix(static_cast<std::size_t>(written));
     }
 }
 
-void OpenFile::truncate() {
-    if (system_calls::truncate(file_, path_.c_str()) != 0) fail();
-}
-
-void OpenFile::set_mode(mode_t mode) {
-    if (system_calls::set_mode(file_, path_.c_str(), mode) != 0 && !unsupported(errno)) fail();
+void OpenFile::set_mode(unsigned mode) {
+    if (system_calls::set_mode(file_, path_, mode) != 0 && !unsupported(errno)) fail(errno, path_);
 }
 
 void OpenFile::flush_to_disk() {
-    if (system_calls::sync(file_, path_.c_str()) != 0 && !unsupported(errno)) fail();
+    if (system_calls::sync(file_, path_) != 0 && !unsupported(errno)) fail(errno, path_);
 }
 
-void OpenFile::flush_device() {
-    if (system_calls::sync_device(file_, path_.c_str()) != 0 && !unsupported(errno)) fail();
+void OpenFile::flush_with_device() {
+    if (system_calls::sync_with_device(file_, path_) != 0 && !unsupported(errno)) fail(errno, path_);
 }
 
 void OpenFile::close() {
-    if (system_calls::close(std::exchange(file_, kClosed), path_.c_str()) != 0) fail();
+    if (system_calls::close(std::exchange(file_, kClosed), path_) != 0) fail(errno, path_);
 }
 
-struct stat OpenFile::status() const {
-    struct stat about {};
-    if (system_calls::open_status(file_, path_.c_str(), about) != 0) fail();
+system_calls::About OpenFile::status() const {
+    system_calls::About about;
+    if (system_calls::open_status(file_, path_, about) != 0) fail(errno, path_);
     return about;
 }
 
-void OpenFile::fail() const { throw Fout::from({errno, std::generic_category()}, path_text(path_.filename())); }
+void flush_device(const std::filesystem::path& folder) {
+    if (system_calls::sync_device(folder) != 0 && !unsupported(errno)) fail(errno, folder);
+}
+
+}  // namespace platform

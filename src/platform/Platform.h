@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+namespace platform {
+
 // One transition of a key, as it is handed to the operating system: 28 bytes.
 struct KeyRecord {
     std::uint32_t type = 0;  // 1 keyboard
@@ -58,3 +60,5 @@ public:
     virtual void send_keys(const std::vector<KeyRecord>& records) = 0;
     virtual bool caps_lock() const = 0;
 };
+
+}  // namespace platform

@@ -1,19 +1,24 @@
 #include "platform/SpecialFolders.h"
 
-#include <cstdlib>
 #include <filesystem>
 
 #include "platform/CodePage.h"
 #include "platform/IniFile.h"
 #include "platform/Paths.h"
 
-std::string special_folder_of(const std::string& program_folder, int number) {
+namespace platform {
+
+std::string folder_of_setting(const std::string& settings_file, const std::string& named) {
+    const std::filesystem::path folder = path_of(name_bytes(named)).make_preferred();
+    if (folder.is_absolute()) return path_text(folder);
+    return settings_file.substr(0, settings_file.size() - last_part(settings_file).size()) + path_text(folder);
+}
+
+std::string special_folder_of(const std::string& settings_file, int number) {
     if (number != kProgramFiles && number != kProgramFilesX86) return {};
     const bool x86 = number == kProgramFilesX86;
-    const std::string set = read_setting(join_path(program_folder, "standaardtavrin.ini"), "Platform",
-                                         x86 ? "ProgramFilesX86" : "ProgramFiles");
-    if (!set.empty()) return std::filesystem::path(set).is_absolute() ? set : join_path(program_folder, set);
-    const char* home = std::getenv("HOME");
-    if (!home) return {};
-    return name_text(home) + (x86 ? "/.wine/drive_c/Program Files (x86)" : "/.wine/drive_c/Program Files");
+    const std::string set = read_setting(settings_file, "Platform", x86 ? "ProgramFilesX86" : "ProgramFiles");
+    return set.empty() ? special_folder_without_key(number) : folder_of_setting(settings_file, set);
 }
+
+}  // namespace platform

@@ -8,7 +8,7 @@ namespace prepare {
 
 // In what the click on a card differs from suit to suit and seat to seat. All of it is meant, the odd ones too.
 struct Klik {
-    kaart::Kleur kleur;
+    cards::Kleur kleur;
     int plaats;
     const char* plaats_van_klik;      // the place string
     int terug_kolom;                  // column whose cell loses its text when the card is taken back
@@ -20,7 +20,7 @@ struct Klik {
 
 inline constexpr const char* kNooit = "LeesResString(37)";  // equals no suit letter
 
-using enum kaart::Kleur;
+using enum cards::Kleur;
 using resources::Bericht;
 
 inline constexpr std::array<Klik, 16> kKlikken{{

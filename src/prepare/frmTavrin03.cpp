@@ -6,17 +6,19 @@
 #include "services/Bas_Aftavrin.h"
 #include "table/KaartenTafel.h"
 
+namespace prepare {
+
 namespace {
 
 constexpr forms::Size kInner{16950, 9585};
 
 }  // namespace
 
-frmTavrin03::frmTavrin03(Programma& programma)
-    : Scherm(programma, "frmTavrin03", kInner,
-             {.key_up = "frmTavrin03 - Form - KeyUp",
-              .terug = "frmTavrin03 - cmdTerug - Click",
-              .query_unload = "frmTavrin03 - Form - QueryUnload"}) {
+frmTavrin03::frmTavrin03(services::Programma& programma)
+    : services::Scherm(programma, "frmTavrin03", kInner,
+                       {.key_up = "frmTavrin03 - Form - KeyUp",
+                        .terug = "frmTavrin03 - cmdTerug - Click",
+                        .query_unload = "frmTavrin03 - Form - QueryUnload"}) {
     stel_uiterlijk_in();
     chkSorteerRVLX.Click = [this] {
         sorteer("frmTavrin03 - chkSorteerRVLX - Click", chkSorteerRVLX, [this] { LaatRVLXSpellenZien(); });
@@ -30,7 +32,7 @@ frmTavrin03::frmTavrin03(Programma& programma)
     cmdOphalen.Click = [this] { cmdOphalen_Click(); };
     msfgTavrin.Click = [this] { msfgTavrin_Click(); };
     cmdTerug.Click = [this] { cmdTerug_Click(); };
-    for (const prepare::Klik& klik : prepare::kKlikken) {
+    for (const Klik& klik : kKlikken) {
         labels.rij(klik.plaats, klik.kleur).each([this, &klik](forms::Label& label) {
             label.Click = [this, &klik, index = label.index()] { klik_kaart(klik, index); };
         });
@@ -38,9 +40,9 @@ frmTavrin03::frmTavrin03(Programma& programma)
 }
 
 void frmTavrin03::stel_uiterlijk_in() {
-    for (const int plaats : kaart::kPlaatsen) {
-        labels.fra(plaats).Caption = LeesResString(kaart::bericht_van_plaats(plaats));
-        bieding.lblBieding(plaats - 1).Caption = LeesResString(kaart::bericht_van_plaats(plaats));
+    for (const int plaats : cards::kPlaatsen) {
+        labels.fra(plaats).Caption = LeesResString(cards::bericht_van_plaats(plaats));
+        bieding.lblBieding(plaats - 1).Caption = LeesResString(cards::bericht_van_plaats(plaats));
     }
     lblInfo(0).Caption = LeesResString(Bericht::Contract) + ":";
     lblInfo(1).Caption = LeesResString(Bericht::Uitkomst) + ":";
@@ -88,15 +90,16 @@ void frmTavrin03::Form_Load() {
         zet_raster_op();
         lees_sorteerkeuzen();
 
-        const std::string programmas = Bas_Aftavrin::ZoekRVLX(programma);
+        const std::string programmas = services::Bas_Aftavrin::ZoekRVLX(programma);
         if (programmas.empty()) return;
-        RVLXMap = join_path(programmas, "RVLX");
+        RVLXMap = platform::join_path(programmas, "RVLX");
         aftavrinMap = programma.pakketten();
         LaatRVLXSpellenZien();
         LeesAftavrinSpellen();
         const std::string laatste =
-            Bas_Aftavrin::LeesIni(programma, "Standaard", "LaatsteRVLX", programma.instellingen());
-        if (!laatste.empty()) lblLaatste.Caption = "Laatst gebruikte " + lower_case(replaced(laatste, " ", ": "));
+            services::Bas_Aftavrin::LeesIni(programma, "Standaard", "LaatsteRVLX", programma.instellingen());
+        if (!laatste.empty())
+            lblLaatste.Caption = "Laatst gebruikte " + base::lower_case(base::replaced(laatste, " ", ": "));
     });
 }
 
@@ -104,7 +107,7 @@ void frmTavrin03::zet_raster_op() {
     msfgTavrin.Row = 0;
     for (int kolom = 1; kolom < msfgTavrin.Cols(); ++kolom) {
         msfgTavrin.Col = kolom;
-        msfgTavrin.SetText(LeesResString(kaart::bericht_van_plaats(kolom)));
+        msfgTavrin.SetText(LeesResString(cards::bericht_van_plaats(kolom)));
         msfgTavrin.SetCellAlignment(forms::FlexGrid::CellAlignment::Centre);
     }
     msfgTavrin.Col = 0;
@@ -119,8 +122,8 @@ void frmTavrin03::zet_raster_op() {
 void frmTavrin03::lees_sorteerkeuzen() {
     for (forms::CheckBox* keuze : {&chkSorteerRVLX, &chkSorteerTavrin}) {
         const std::string waarde =
-            Bas_Aftavrin::LeesIni(programma, "Standaard", keuze->name(), programma.instellingen());
-        keuze->Value = numeric_value(waarde) == 0 ? 0 : 1;
+            services::Bas_Aftavrin::LeesIni(programma, "Standaard", keuze->name(), programma.instellingen());
+        keuze->Value = base::numeric_value(waarde) == 0 ? 0 : 1;
     }
 }
 
@@ -133,7 +136,7 @@ void frmTavrin03::Form_Activate() {
 
 void frmTavrin03::LaatRVLXSpellenZien() {
     Foutpad("frmTavrin03 - General - LaatRVLXSpellenZien", [&] {
-        toon_mappen({lstRVLX, dirRVLX, chkSorteerRVLX}, RVLXMap.empty() ? "" : join_path(RVLXMap, "spellen"));
+        toon_mappen({lstRVLX, dirRVLX, chkSorteerRVLX}, RVLXMap.empty() ? "" : platform::join_path(RVLXMap, "spellen"));
     });
 }
 
@@ -153,12 +156,14 @@ void frmTavrin03::lstRVLX_Click() {
         lstAfTavrin.ListIndex = -1;
         lstKnipTekst.Clear();
         MaakLabelSchoon();
-        Kaarten::ZetVariabelenOpNul(gedeeld);
+        cards::Kaarten::ZetVariabelenOpNul(gedeeld);
         cmdOpslaan.Enabled = false;
         gedeeld.spelNaam = lstRVLX.Text();
-        gedeeld.spelMap = join_path(join_path(RVLXMap, "spellen"), lstRVLX.Text());
+        gedeeld.spelMap = platform::join_path(platform::join_path(RVLXMap, "spellen"), lstRVLX.Text());
         LeesRVLXSpelIn();
-        Kaarten::ToonBieding(*this, bieding);
+        table::Kaarten::ToonBieding(*this, bieding);
         gedeeld.uitkomstVast = true;
     });
 }
+
+}  // namespace prepare

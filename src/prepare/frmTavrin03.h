@@ -15,9 +15,9 @@
 #include "table/BiedingPaneel.h"
 
 namespace prepare {
+
 struct Klik;
 struct Bron;
-}  // namespace prepare
 
 // The preparation screen: turns a deal of the companion into a package by recording its play card by card. All state
 // of a deal in preparation stands in its controls. The routines lie in one file a subject:
@@ -44,14 +44,14 @@ struct Bron;
 //   lblSlagenTellerNZ, -OW   the tricks won                         SlagenTeller, Raster     tel_slag_voor
 //   lstKnipTekst             lines of the texts cut so far          knip_tot_regels          Lezen
 //   lstOpslaan               the play rows to be written            stel_speelrijen_op       schrijf_speelbestanden
-class frmTavrin03 final : public Scherm {
+class frmTavrin03 final : public services::Scherm {
 public:
-    explicit frmTavrin03(Programma& programma);
+    explicit frmTavrin03(services::Programma& programma);
     void Form_Load() override;
     void Form_Activate() override;
 
-    prepare::KaartLabels labels{*this};
-    BiedingPaneel bieding{*this, {12780, 150, 4035, 3105}, {.eerste = 570, .stap = 870}};
+    KaartLabels labels{*this};
+    table::BiedingPaneel bieding{*this, {12780, 150, 4035, 3105}, {.eerste = 570, .stap = 870}};
     forms::Frame fraRVLX{*this, "fraRVLX", {90, 150, 2745, 4305}};
     forms::ListBox lstRVLX{fraRVLX, "lstRVLX", {120, 300, 2505, 3375}};
     forms::CheckBox chkSorteerRVLX{fraRVLX, "chkSorteerRVLX", {120, 3720, 2565, 285}};
@@ -130,12 +130,12 @@ private:
     void msfgTavrin_Click();
 
     // Lezen.
-    bool lees_spel(const prepare::Bron& bron);
+    bool lees_spel(const Bron& bron);
     void maak_scherm_leeg();
-    void lees_uitkomst(const prepare::Bron& bron);
+    void lees_uitkomst(const Bron& bron);
     int zet_uitkomst_in_raster();
-    void lees_handen(const prepare::Bron& bron);
-    void kleur_uitkomst(int kolom, const prepare::Bron& bron);
+    void lees_handen(const Bron& bron);
+    void kleur_uitkomst(int kolom, const Bron& bron);
     void bepaal_troef();
     void knip_tot_regels(const std::string& tekst);
 
@@ -145,15 +145,15 @@ private:
     std::string cel_tekst(const std::string& kaartcode) const;
 
     // Opname.
-    void klik_kaart(const prepare::Klik& klik, int index);
-    void neem_terug(const prepare::Klik& klik, forms::Label& label);
-    std::optional<kaart::Kleur> te_bekennen(const prepare::Klik& klik);
+    void klik_kaart(const Klik& klik, int index);
+    void neem_terug(const Klik& klik, forms::Label& label);
+    std::optional<cards::Kleur> te_bekennen(const Klik& klik);
     void bepaal_winnaar();
     int leg_kaart(int speler, const std::string& kaart, int index);
     bool lees_slag(int slagrij);
     int sluit_slag(int slagrij, int speler);
     int waarde_van(const std::string& kaart) const;
-    std::optional<kaart::Kleur> kleur_van_letter(const std::string& letter) const;
+    std::optional<cards::Kleur> kleur_van_letter(const std::string& letter) const;
     void tel_slag_voor(int kolom);
 
     // Raster.
@@ -178,3 +178,5 @@ namespace Kaarten {
 void SlagenTeller(frmTavrin03& scherm);
 
 }  // namespace Kaarten
+
+}  // namespace prepare

@@ -8,16 +8,13 @@
 #include "services/Knip_Tekst.h"
 #include "table/KaartenTafel.h"
 
-using prepare::Bron;
-using prepare::kHoogste;
-using prepare::kInHand;
-using prepare::kInSlag;
+namespace prepare {
 
 namespace {
 
 std::string lees_tekst(const std::string& pad) {
     std::string tekst;
-    for (LineReader regels(pad); !regels.at_end();)
+    for (platform::LineReader regels(pad); !regels.at_end();)
         tekst += regels.line() + "\r\n";
     return tekst;
 }
@@ -31,17 +28,17 @@ std::string zonder_regeleinde_vooraan(const std::string& tekst) {
 void frmTavrin03::LeesRVLXSpelIn() {
     tekstenGelezen = false;
     Foutpad("frmTavrin03 - General - LeesRVLXSpelIn", [&] {
-        const std::string map = join_path(join_path(RVLXMap, "spellen"), gedeeld.spelNaam);
-        const Bron bron{join_path(map, gedeeld.spelNaam), gedeeld.spelNaam, "\r\n", false, kInSlag};
+        const std::string map = platform::join_path(platform::join_path(RVLXMap, "spellen"), gedeeld.spelNaam);
+        const Bron bron{platform::join_path(map, gedeeld.spelNaam), gedeeld.spelNaam, "\r\n", false, kInSlag};
         if (!lees_spel(bron)) return;
         txtVraag.Text = "";
         txtAntwoord.Text = "";
         for (const auto& [achtervoegsel, doos] :
              {std::pair{" vraag.txt", &txtVraag}, {" antwoord.txt", &txtAntwoord}}) {
             lstKnipTekst.Clear();
-            knip_tot_regels(trimmed(lees_tekst(bron.stam + achtervoegsel)));
+            knip_tot_regels(base::trimmed(lees_tekst(bron.stam + achtervoegsel)));
             // Two characters go without a test: a text that doesn't begin with a line break loses two letters.
-            doos->Text = middle(met_regeleinden(lstKnipTekst), 3);
+            doos->Text = base::middle(services::met_regeleinden(lstKnipTekst), 3);
         }
         tekstenGelezen = true;
         bepaal_troef();
@@ -51,8 +48,8 @@ void frmTavrin03::LeesRVLXSpelIn() {
 void frmTavrin03::LeesSpelIn() {
     tekstenGelezen = false;
     Foutpad("frmTavrin03 - General - LeesSpelIn", [&] {
-        const Bron bron{join_path(gedeeld.spelMap, gedeeld.spelNaam), lstAfTavrin.Text() + " ", "\n", true,
-                        prepare::kUitkomstVanPakket};
+        const Bron bron{platform::join_path(gedeeld.spelMap, gedeeld.spelNaam), lstAfTavrin.Text() + " ", "\n", true,
+                        kUitkomstVanPakket};
         if (!lees_spel(bron)) return;
         txtVraag.Text = lees_tekst(bron.stam + " vraag.txt");
         txtAntwoord.Text = lees_tekst(bron.stam + " antwoord.txt");
@@ -60,31 +57,31 @@ void frmTavrin03::LeesSpelIn() {
         // The list is not cleared between the two: the answer's box gets the question's lines too.
         for (forms::TextBox* doos : {&txtVraag, &txtAntwoord}) {
             knip_tot_regels(doos->Text());
-            doos->Text = met_regeleinden(lstKnipTekst);
+            doos->Text = services::met_regeleinden(lstKnipTekst);
         }
         for (forms::TextBox* doos : {&txtVraag, &txtAntwoord})
             doos->Text = zonder_regeleinde_vooraan(doos->Text());
         tekstenGelezen = true;
-        Kaarten::ToonBieding(*this, bieding);
+        table::Kaarten::ToonBieding(*this, bieding);
     });
 }
 
 void frmTavrin03::knip_tot_regels(const std::string& tekst) {
     txtKnipText.Text = "";
     txtKnipText.Text = tekst;
-    Knip_Tekst(txtKnipText, lstKnipTekst);
+    services::Knip_Tekst(txtKnipText, lstKnipTekst);
 }
 
 // What both readers do alike. False if the deal was refused.
 bool frmTavrin03::lees_spel(const Bron& bron) {
     maak_scherm_leeg();
-    if (!Kaarten::aanwezig(bron.stam + " Contract.txt")) {
+    if (!cards::Kaarten::aanwezig(bron.stam + " Contract.txt")) {
         programma.platform.message_box(
-            box_style::kInformation, Caption(),
-            bron.geweigerd + replaced(LeesResString(Bericht::NietCompleet), "|", bron.regeleinde));
+            platform::box_style::kInformation, Caption(),
+            bron.geweigerd + base::replaced(LeesResString(Bericht::NietCompleet), "|", bron.regeleinde));
         return false;
     }
-    gedeeld.regel = Kaarten::eerste_regel(bron.stam + " Contract.txt");
+    gedeeld.regel = cards::Kaarten::eerste_regel(bron.stam + " Contract.txt");
     lblContract.Caption = gedeeld.regel;
     lblContract.Visible = true;
     lees_uitkomst(bron);
@@ -102,7 +99,7 @@ void frmTavrin03::maak_scherm_leeg() {
         label.BackColor = kInHand;
         label.Enabled = true;
     });
-    for (const int plaats : kaart::kPlaatsen)
+    for (const int plaats : cards::kPlaatsen)
         labels.fra(plaats).BackColor = kInHand;
     msfgTavrin.Redraw = false;
     for (int r = 1; r < msfgTavrin.Rows(); ++r) {
@@ -118,19 +115,19 @@ void frmTavrin03::maak_scherm_leeg() {
 }
 
 void frmTavrin03::lees_uitkomst(const Bron& bron) {
-    gedeeld.regel = Kaarten::eerste_regel(bron.stam + " Uitkomst.txt");
-    gedeeld.delen = split(gedeeld.regel, "-");
-    const std::string wind = trimmed(gedeeld.delen[0]);
-    const std::string kaart = trimmed(gedeeld.delen[1]);
+    gedeeld.regel = cards::Kaarten::eerste_regel(bron.stam + " Uitkomst.txt");
+    gedeeld.delen = base::split(gedeeld.regel, "-");
+    const std::string wind = base::trimmed(gedeeld.delen[0]);
+    const std::string kaart = base::trimmed(gedeeld.delen[1]);
     picUitkomst.Picture = forms::Picture{};
     if (!kaart.empty() && kaart[0] >= '0' && kaart[0] <= '3') {
-        const auto kleur = static_cast<kaart::Kleur>(kaart[0] - '0');
+        const auto kleur = static_cast<cards::Kleur>(kaart[0] - '0');
         picUitkomst.Picture = labels.pic(1)(kleur).Picture();
-        GevraagdeKleur = LeesResString(kaart::gegevens(kleur).letter) + " ";
+        GevraagdeKleur = LeesResString(cards::gegevens(kleur).letter) + " ";
     }
     lblUitkomstWind.Caption = wind + " - ";
     picUitkomst.Left = lblUitkomstWind.right() + 32;
-    lblUitkomstKaart.Caption = middle(kaart, 2);
+    lblUitkomstKaart.Caption = base::middle(kaart, 2);
     lblUitkomstKaart.Left = picUitkomst.right() + 48;
     lblUitkomstWind.Visible = true;
     picUitkomst.Visible = true;
@@ -143,9 +140,9 @@ int frmTavrin03::zet_uitkomst_in_raster() {
     msfgTavrin.Row = 0;
     for (int kolom = 1; kolom < msfgTavrin.Cols(); ++kolom) {
         msfgTavrin.Col = kolom;
-        if (msfgTavrin.Text() != left(wind, wind.size() - 3)) continue;
+        if (msfgTavrin.Text() != base::left(wind, wind.size() - 3)) continue;
         msfgTavrin.Row = 1;
-        msfgTavrin.SetText(GevraagdeKleur + left(lblUitkomstKaart.Caption(), 1));
+        msfgTavrin.SetText(GevraagdeKleur + base::left(lblUitkomstKaart.Caption(), 1));
         msfgTavrin.SetCellAlignment(forms::FlexGrid::CellAlignment::Centre);
         msfgTavrin.SetCellBackColor(kInSlag);
         return kolom;
@@ -154,14 +151,14 @@ int frmTavrin03::zet_uitkomst_in_raster() {
 }
 
 void frmTavrin03::lees_handen(const Bron& bron) {
-    LineReader regels(bron.stam + " handen.txt");
-    for (const int plaats : kaart::kPlaatsen) {
-        for (const kaart::Kleur kleur : kaart::kKleuren) {
+    platform::LineReader regels(bron.stam + " handen.txt");
+    for (const int plaats : cards::kPlaatsen) {
+        for (const cards::Kleur kleur : cards::kKleuren) {
             const std::string kaarten = regels.line();
             for (std::size_t i = 0; i < kaarten.size(); ++i) {
                 forms::Label& label = labels.rij(plaats, kleur)(static_cast<int>(i));
                 label.Caption = std::string(1, kaarten[i]);
-                label.AccessibleName = kaart::titel(kaart::code_van(waarde_van(label.Caption()), kleur));
+                label.AccessibleName = cards::titel(cards::code_van(waarde_van(label.Caption()), kleur));
                 label.Visible = true;
             }
         }
@@ -169,13 +166,13 @@ void frmTavrin03::lees_handen(const Bron& bron) {
 }
 
 void frmTavrin03::kleur_uitkomst(int kolom, const Bron& bron) {
-    if (kolom != 0) lstKlaar.Tag = LeesResString(kaart::letter_van_plaats(kaart::volgende_plaats(kolom)));
-    const auto kleur = kleur_van_letter(trimmed(GevraagdeKleur));
+    if (kolom != 0) lstKlaar.Tag = LeesResString(cards::letter_van_plaats(cards::volgende_plaats(kolom)));
+    const auto kleur = kleur_van_letter(base::trimmed(GevraagdeKleur));
     const bool bekend = !(picUitkomst.Picture == forms::Picture{});
-    if (kolom == 0 || !kleur || !bekend) throw Fout(FoutNummer::InvalidCall, gedeeld.regel);
+    if (kolom == 0 || !kleur || !bekend) throw base::Fout(base::FoutNummer::InvalidCall, gedeeld.regel);
     for (int i = 0; i <= kHoogste; ++i) {
         forms::Label& label = labels.rij(kolom, *kleur)(i);
-        if (!(label.Caption == left(lblUitkomstKaart.Caption(), 1))) continue;
+        if (!(label.Caption == base::left(lblUitkomstKaart.Caption(), 1))) continue;
         label.BackColor = bron.kleur_uitkomst;
         return;
     }
@@ -185,9 +182,11 @@ void frmTavrin03::kleur_uitkomst(int kolom, const Bron& bron) {
 void frmTavrin03::bepaal_troef() {
     TroefNummer = 0;
     TroefKleur.clear();
-    for (const kaart::Kleur kleur : kaart::kKleuren) {
-        if (lblContract.Caption().find(LeesResString(kaart::gegevens(kleur).woord)) == std::string::npos) continue;
+    for (const cards::Kleur kleur : cards::kKleuren) {
+        if (lblContract.Caption().find(LeesResString(cards::gegevens(kleur).woord)) == std::string::npos) continue;
         TroefNummer = 4 - static_cast<int>(kleur);
-        TroefKleur = LeesResString(kaart::gegevens(kleur).letter);
+        TroefKleur = LeesResString(cards::gegevens(kleur).letter);
     }
 }
+
+}  // namespace prepare

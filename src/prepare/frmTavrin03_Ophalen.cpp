@@ -2,6 +2,8 @@
 #include "platform/Files.h"
 #include "prepare/frmTavrin03.h"
 
+namespace prepare {
+
 namespace {
 
 constexpr int kHandRegels = 16;
@@ -16,36 +18,38 @@ void frmTavrin03::cmdOphalen_Click() {
         lstOphalen.Clear();
         lstMsfgTavrin.Clear();
         MaakLabelSchoon();
-        LineReader regels(programma.pad("test.txt"));
+        platform::LineReader regels(programma.pad("test.txt"));
         for (int nummer = 1; !regels.at_end(); ++nummer) {
             (nummer > kHandRegels ? lstMsfgTavrin : lstOphalen).AddItem(regels.line());
         }
 
         int hand = 0;
-        labels.elke_rij([&](prepare::KaartLabels::Rij& rij) {
+        labels.elke_rij([&](KaartLabels::Rij& rij) {
             if (hand >= lstOphalen.ListCount()) return;
-            gedeeld.delen = split(lstOphalen.List(hand++), "|");
+            gedeeld.delen = base::split(lstOphalen.List(hand++), "|");
             for (int i = 0; i < gedeeld.delen.last(); ++i) {
                 const std::string& stuk = gedeeld.delen[i];
                 forms::Label& label = rij(i);
-                label.BackColor = numeric_value(left(stuk, 1)) == 1 ? prepare::kGespeeld : prepare::kInHand;
-                if (stuk.size() == 2) label.Caption = middle(stuk, 2);
+                label.BackColor = base::numeric_value(base::left(stuk, 1)) == 1 ? kGespeeld : kInHand;
+                if (stuk.size() == 2) label.Caption = base::middle(stuk, 2);
                 label.Visible = stuk.size() == 2;
             }
         });
 
         msfgTavrin.Row = 0;
         for (int r = 0; r < lstMsfgTavrin.ListCount(); ++r) {
-            gedeeld.delen = split(lstMsfgTavrin.List(r), "|");
+            gedeeld.delen = base::split(lstMsfgTavrin.List(r), "|");
             msfgTavrin.Row = msfgTavrin.Row + 1;
             for (int i = 0; i < gedeeld.delen.last(); ++i) {
                 const std::string& stuk = gedeeld.delen[i];
                 msfgTavrin.Col = i + 1;
-                msfgTavrin.SetCellBackColor(left(stuk, 1) == kGespeeldTeken ? prepare::kInSlag : prepare::kInHand);
-                msfgTavrin.SetText(middle(stuk, 2));
+                msfgTavrin.SetCellBackColor(base::left(stuk, 1) == kGespeeldTeken ? kInSlag : kInHand);
+                msfgTavrin.SetText(base::middle(stuk, 2));
                 msfgTavrin.SetCellAlignment(forms::FlexGrid::CellAlignment::Centre);
             }
         }
         Kaarten::SlagenTeller(*this);
     });
 }
+
+}  // namespace prepare

@@ -2,18 +2,15 @@
 #include "prepare/Klik.h"
 #include "prepare/frmTavrin03.h"
 
-using prepare::kGespeeld;
-using prepare::kHoogste;
-using prepare::kInHand;
-using prepare::kInSlag;
+namespace prepare {
 
-void frmTavrin03::klik_kaart(const prepare::Klik& klik, int index) {
+void frmTavrin03::klik_kaart(const Klik& klik, int index) {
     Foutpad(klik.plaats_van_klik, [&] {
         forms::Label& label = labels.rij(klik.plaats, klik.kleur)(index);
         if (label.BackColor == kGespeeld) return;
         const bool in_slag = label.BackColor == kInSlag;
         if (gedeeld.uitkomstVast && (in_slag || klik.eerst_vast)) {
-            programma.platform.message_box(box_style::kInformation, LeesResString(Bericht::ProgrammaNaam),
+            programma.platform.message_box(platform::box_style::kInformation, LeesResString(Bericht::ProgrammaNaam),
                                            LeesResString(Bericht::UitkomstBlijft));
             cmdFocus.SetFocus();
             return;
@@ -22,32 +19,32 @@ void frmTavrin03::klik_kaart(const prepare::Klik& klik, int index) {
             neem_terug(klik, label);
             return;
         }
-        std::string wie = LeesResString(kaart::letter_van_plaats(klik.plaats));
+        std::string wie = LeesResString(cards::letter_van_plaats(klik.plaats));
         if (!(lstKlaar.Tag == wie)) {
             AanDeBeurt(wie);
             cmdFocus.SetFocus();
             return;
         }
         gedeeld.uitkomstVast = false;
-        const std::string letter = LeesResString(kaart::gegevens(klik.kleur).letter);
+        const std::string letter = LeesResString(cards::gegevens(klik.kleur).letter);
         if (GevraagdeKleur.empty()) GevraagdeKleur = letter;
-        const std::optional<kaart::Kleur> kleur = te_bekennen(klik);
+        const std::optional<cards::Kleur> kleur = te_bekennen(klik);
         MoetBekennen = kleur.has_value();
         if (MoetBekennen) {
-            const std::string woord = LeesResString(kaart::gegevens(*kleur).woord);
-            programma.platform.message_box(box_style::kInformation, Caption(),
-                                           replaced(LeesResString(Bericht::MoetBekennen), "~", woord));
+            const std::string woord = LeesResString(cards::gegevens(*kleur).woord);
+            programma.platform.message_box(platform::box_style::kInformation, Caption(),
+                                           base::replaced(LeesResString(Bericht::MoetBekennen), "~", woord));
             cmdFocus.SetFocus();
             return;
         }
-        if (klik.even_blauw) label.BackColor = prepare::kEvenBlauw;
+        if (klik.even_blauw) label.BackColor = kEvenBlauw;
         int speler = klik.plaats;
         VolgendeKaart(speler, letter + " " + label.Caption(), index);
     });
 }
 
 // Whichever card of the trick is taken back, the next one clicked counts as the lead.
-void frmTavrin03::neem_terug(const prepare::Klik& klik, forms::Label& label) {
+void frmTavrin03::neem_terug(const Klik& klik, forms::Label& label) {
     label.BackColor = kInHand;
     lstKlaar.Tag = LeesResString(klik.terug_letter);
     msfgTavrin.Col = klik.terug_kolom;
@@ -56,12 +53,12 @@ void frmTavrin03::neem_terug(const prepare::Klik& klik, forms::Label& label) {
 }
 
 // The suit that the seat must follow and can, if the clicked card does not.
-std::optional<kaart::Kleur> frmTavrin03::te_bekennen(const prepare::Klik& klik) {
-    const std::string gevraagd = trimmed(GevraagdeKleur);
-    if (gevraagd == LeesResString(kaart::gegevens(klik.kleur).letter)) return std::nullopt;
-    for (const kaart::Kleur kleur : kaart::kKleuren) {
+std::optional<cards::Kleur> frmTavrin03::te_bekennen(const Klik& klik) {
+    const std::string gevraagd = base::trimmed(GevraagdeKleur);
+    if (gevraagd == LeesResString(cards::gegevens(klik.kleur).letter)) return std::nullopt;
+    for (const cards::Kleur kleur : cards::kKleuren) {
         const std::string letter =
-            kleur == kaart::Kleur::Klaveren ? klik.klaver : LeesResString(kaart::gegevens(kleur).letter);
+            kleur == cards::Kleur::Klaveren ? klik.klaver : LeesResString(cards::gegevens(kleur).letter);
         if (kleur == klik.kleur || gevraagd != letter) continue;
         for (int i = 0; i <= kHoogste; ++i) {
             const forms::Label& label = labels.rij(klik.plaats, kleur)(i);
@@ -73,14 +70,15 @@ std::optional<kaart::Kleur> frmTavrin03::te_bekennen(const prepare::Klik& klik) 
 
 void frmTavrin03::AanDeBeurt(std::string& wie) {
     Foutpad("frmTavrin03 - General - AanDeBeurt", [&] {
-        for (const int plaats : kaart::kPlaatsen) {
-            if (lstKlaar.Tag == LeesResString(kaart::letter_van_plaats(plaats))) {
-                wie = LeesResString(kaart::bericht_van_plaats(plaats));
+        for (const int plaats : cards::kPlaatsen) {
+            if (lstKlaar.Tag == LeesResString(cards::letter_van_plaats(plaats))) {
+                wie = LeesResString(cards::bericht_van_plaats(plaats));
                 break;
             }
         }
-        programma.platform.message_box(box_style::kInformation, Caption(),
-                                       replaced(replaced(LeesResString(Bericht::JuisteVolgorde), "~", wie), "|", "\n"));
+        programma.platform.message_box(
+            platform::box_style::kInformation, Caption(),
+            base::replaced(base::replaced(LeesResString(Bericht::JuisteVolgorde), "~", wie), "|", "\n"));
     });
 }
 
@@ -98,7 +96,7 @@ void frmTavrin03::VolgendeKaart(int& speler, const std::string& kaart, int index
             speler = sluit_slag(slagrij, speler);
         }
         if (speler >= 1 && speler <= 4) {
-            lstKlaar.Tag = LeesResString(kaart::letter_van_plaats(kaart::volgende_plaats(speler)));
+            lstKlaar.Tag = LeesResString(cards::letter_van_plaats(cards::volgende_plaats(speler)));
         }
     });
 }
@@ -115,7 +113,7 @@ int frmTavrin03::leg_kaart(int speler, const std::string& kaart, int index) {
         msfgTavrin.SetText(kaart);
     }
     if (LeesModus) slagrij = msfgTavrin.Rows() - 1;
-    const auto kleur = kleur_van_letter(left(kaart, 1));
+    const auto kleur = kleur_van_letter(base::left(kaart, 1));
     if (kleur && speler >= 1 && speler <= 4) labels.rij(speler, *kleur)(index).BackColor = kInSlag;
     lstKlaar.Clear();
     msfgTavrin.Row = slagrij;
@@ -140,15 +138,15 @@ void frmTavrin03::bepaal_winnaar() {
     lstAnderKleur.Clear();
     bool troef = false;
     for (int i = 0; i < lstKlaar.ListCount(); ++i) {
-        const bool is_troef = left(lstKlaar.List(i), 1) == TroefKleur;
+        const bool is_troef = base::left(lstKlaar.List(i), 1) == TroefKleur;
         lstAnderKleur.AddItem(is_troef ? lstKlaar.List(i) : " ");
         troef = troef || is_troef;
     }
-    const std::string gevraagd = trimmed(GevraagdeKleur);
+    const std::string gevraagd = base::trimmed(GevraagdeKleur);
     for (int i = 0; i < lstKlaar.ListCount(); ++i) {
         if (troef) {
             lstKlaar.SetList(i, lstAnderKleur.List(i));
-        } else if (left(lstKlaar.List(i), 1) != gevraagd) {
+        } else if (base::left(lstKlaar.List(i), 1) != gevraagd) {
             lstKlaar.SetList(i, "");
         }
     }
@@ -175,28 +173,28 @@ int frmTavrin03::sluit_slag(int slagrij, int speler) {
     // No row follows the last trick, so its winner is counted here.
     Kaarten::SlagenTeller(*this);
     tel_slag_voor(SlagWinnaar);
-    programma.platform.message_box(box_style::kInformation, Caption(), LeesResString(Bericht::KlikOpOpslaan));
+    programma.platform.message_box(platform::box_style::kInformation, Caption(), LeesResString(Bericht::KlikOpOpslaan));
     cmdOpslaan.Enabled = true;
     return speler;
 }
 
 void frmTavrin03::tel_slag_voor(int kolom) {
-    forms::Label& teller = kolom == kaart::kNoord || kolom == kaart::kZuid ? lblSlagenTellerNZ : lblSlagenTellerOW;
-    teller.Caption = std::to_string(numeric_value(teller.Caption()) + 1);
+    forms::Label& teller = kolom == cards::kNoord || kolom == cards::kZuid ? lblSlagenTellerNZ : lblSlagenTellerOW;
+    teller.Caption = std::to_string(base::numeric_value(teller.Caption()) + 1);
 }
 
 // Value of a card by its last character, 2 to 14; 0 for a text that is none.
 int frmTavrin03::waarde_van(const std::string& kaart) const {
-    const std::string laatste = right(kaart, 1);
+    const std::string laatste = base::right(kaart, 1);
     for (int rang = 10; rang <= 14; ++rang) {
-        if (laatste == LeesResString(kaart::bericht_van_rang(rang))) return rang;
+        if (laatste == LeesResString(cards::bericht_van_rang(rang))) return rang;
     }
-    return numeric_value(laatste);
+    return base::numeric_value(laatste);
 }
 
-std::optional<kaart::Kleur> frmTavrin03::kleur_van_letter(const std::string& letter) const {
-    for (const kaart::Kleur kleur : kaart::kKleuren) {
-        if (letter == LeesResString(kaart::gegevens(kleur).letter)) return kleur;
+std::optional<cards::Kleur> frmTavrin03::kleur_van_letter(const std::string& letter) const {
+    for (const cards::Kleur kleur : cards::kKleuren) {
+        if (letter == LeesResString(cards::gegevens(kleur).letter)) return kleur;
     }
     return std::nullopt;
 }
@@ -233,7 +231,7 @@ void Kaarten::SlagenTeller(frmTavrin03& scherm) {
         for (int rij = 2; rij < raster.Rows(); ++rij) {
             for (int kolom = 1; kolom < raster.Cols(); ++kolom) {
                 if (raster.cell(rij, kolom).colour == kInHand) continue;
-                ++(kolom == kaart::kNoord || kolom == kaart::kZuid ? noord_zuid : oost_west);
+                ++(kolom == cards::kNoord || kolom == cards::kZuid ? noord_zuid : oost_west);
             }
         }
         raster.Row = raster.Rows() - 1;
@@ -243,3 +241,5 @@ void Kaarten::SlagenTeller(frmTavrin03& scherm) {
         scherm.lblSlagenTellerOW.Caption = std::to_string(oost_west);
     });
 }
+
+}  // namespace prepare

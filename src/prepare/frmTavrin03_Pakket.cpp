@@ -6,9 +6,7 @@
 #include "prepare/frmTavrin03.h"
 #include "services/Bas_Aftavrin.h"
 
-using prepare::kGespeeld;
-using prepare::kHoogste;
-using prepare::kInSlag;
+namespace prepare {
 
 void frmTavrin03::lstAfTavrin_Click() {
     if (lstAfTavrin.ListIndex == -1) return;
@@ -25,8 +23,8 @@ void frmTavrin03::lstAfTavrin_Click() {
         gedeeld.spelNaam = lstAfTavrin.Text();
         lstAfTavrin.Tag = std::to_string(lstAfTavrin.ListIndex);
         LeesSpelIn();
-        if (Kaarten::aanwezig(join_path(gedeeld.spelMap, lstAfTavrin.Text() + " aftavrin.txt"))) {
-            const Zolang leest(LeesModus, true);
+        if (cards::Kaarten::aanwezig(platform::join_path(gedeeld.spelMap, lstAfTavrin.Text() + " aftavrin.txt"))) {
+            const base::Zolang leest(LeesModus, true);
             lstVoorWissen.Clear();
             speel_rijen_na();
             sluit_laatste_slag();
@@ -35,8 +33,8 @@ void frmTavrin03::lstAfTavrin_Click() {
             cmdOpslaan.Enabled = true;
         } else {
             programma.platform.message_box(
-                box_style::kInformation, Caption(),
-                lstAfTavrin.Text() + " " + replaced(LeesResString(Bericht::NietCompleet), "|", "\n"));
+                platform::box_style::kInformation, Caption(),
+                lstAfTavrin.Text() + " " + base::replaced(LeesResString(Bericht::NietCompleet), "|", "\n"));
         }
         gedeeld.uitkomstVast = true;
         cmdFocus.SetFocus();
@@ -47,13 +45,13 @@ void frmTavrin03::lstAfTavrin_Click() {
 }
 
 void frmTavrin03::speel_rijen_na() {
-    const std::string map = join_path(dirAftavrin.Path(), lstAfTavrin.Text());
-    LineReader regels(join_path(map, lstAfTavrin.Text() + " aftavrin.txt"));
+    const std::string map = platform::join_path(dirAftavrin.Path(), lstAfTavrin.Text());
+    platform::LineReader regels(platform::join_path(map, lstAfTavrin.Text() + " aftavrin.txt"));
     for (int r = 1; !regels.at_end();) {
         gedeeld.regel = regels.line();
         lstVoorWissen.AddItem(gedeeld.regel);
-        if (trimmed(gedeeld.regel).empty()) continue;
-        gedeeld.delen = split(gedeeld.regel, "|");
+        if (base::trimmed(gedeeld.regel).empty()) continue;
+        gedeeld.delen = base::split(gedeeld.regel, "|");
         msfgTavrin.Row = r++;
         for (int i = 1; i <= gedeeld.delen.last(); ++i) {
             msfgTavrin.Col = i;
@@ -61,7 +59,7 @@ void frmTavrin03::speel_rijen_na() {
             msfgTavrin.SetCellAlignment(forms::FlexGrid::CellAlignment::Centre);
         }
         // A first character that is no digit colours the heading column.
-        msfgTavrin.Col = numeric_value(left(gedeeld.delen[0], 1));
+        msfgTavrin.Col = base::numeric_value(base::left(gedeeld.delen[0], 1));
         msfgTavrin.SetCellBackColor(kInSlag);
     }
     labels.elk_label([](forms::Label& label) {
@@ -72,14 +70,16 @@ void frmTavrin03::speel_rijen_na() {
 // No row after the last trick tells its winner: VolgendeKaart works it out.
 void frmTavrin03::sluit_laatste_slag() {
     msfgTavrin.Row = msfgTavrin.Rows() - 1;
-    const std::string vierde = left(middle(gedeeld.regel, 4), 1);
-    int speler = numeric_value(vierde);
+    const std::string vierde = base::left(base::middle(gedeeld.regel, 4), 1);
+    int speler = base::numeric_value(vierde);
     if (!vierde.empty()) msfgTavrin.Col = speler;
     VolgendeKaart(speler, msfgTavrin.Text(), kHoogste);
 }
 
 std::string frmTavrin03::cel_tekst(const std::string& kaartcode) const {
-    const int nummer = kaart::nummer_van(kaartcode);
-    return LeesResString(kaart::gegevens(kaart::kleur_van(nummer)).letter) + " " +
-           Kaarten::waarde_letter(*this, nummer);
+    const int nummer = cards::nummer_van(kaartcode);
+    return LeesResString(cards::gegevens(cards::kleur_van(nummer)).letter) + " " +
+           cards::Kaarten::waarde_letter(*this, nummer);
 }
+
+}  // namespace prepare

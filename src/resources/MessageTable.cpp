@@ -135,7 +135,7 @@ const std::string* message(int number) {
 
 std::string message_text(int number) {
     const std::string* text = message(number);
-    if (!text) throw Fout(FoutNummer::NoSuchResource, std::to_string(number));
+    if (!text) throw base::Fout(base::FoutNummer::NoSuchResource, std::to_string(number));
     return *text;
 }
 

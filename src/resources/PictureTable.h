@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "resources/Drawing.h"
+#include "resources/drawing/Drawing.h"
 
 namespace resources {
 
@@ -18,7 +18,7 @@ struct Size {
 bool has_picture(int number);
 
 // Failure 326 if the table has no such number. Every call draws anew.
-Drawing draw_picture(int number);
+drawing::Drawing draw_picture(int number);
 Size picture_size(int number);
 
 // The screens' own pictures; failure 326 for any other name:
@@ -26,6 +26,6 @@ Size picture_size(int number);
 //   "maker"                   110 by 110, opaque
 //   "gezicht0", "gezicht1"    140 by 128, the same face with open and with closed eyes
 //   "ja", "nee", "bezig"      30 by 30, the markers of a card: has a text, has none, in work
-Drawing draw_named_picture(std::string_view name);
+drawing::Drawing draw_named_picture(std::string_view name);
 
 }  // namespace resources

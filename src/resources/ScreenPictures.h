@@ -1,23 +1,23 @@
 #pragma once
 
-#include "resources/Drawing.h"
+#include "resources/drawing/Drawing.h"
 
 namespace resources {
 
 enum class Eyes { Open, Closed };
 
 // The name of the program beside two cards.
-Drawing draw_logo();
+drawing::Drawing draw_logo();
 
 // The portrait of the maker, with a hand of cards.
-Drawing draw_maker();
+drawing::Drawing draw_maker();
 
 // The face of the error report. Only the eyes differ between the two states.
-Drawing draw_error_face(Eyes eyes);
+drawing::Drawing draw_error_face(Eyes eyes);
 
 // The markers of a card in the editor: a green leaf with lines of text, a grey empty ring, an orange pencil.
-Drawing draw_marker_text();
-Drawing draw_marker_empty();
-Drawing draw_marker_busy();
+drawing::Drawing draw_marker_text();
+drawing::Drawing draw_marker_empty();
+drawing::Drawing draw_marker_busy();
 
 }  // namespace resources

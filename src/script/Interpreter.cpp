@@ -61,7 +61,9 @@ std::string lines_of(const Items& items, Line line) {
 
 std::string value(const std::string& text) { return "= " + escaped(text); }
 
-std::string style_word(Answer answer) { return answer == Answer::Yes ? "yes" : answer == Answer::No ? "no" : "ok"; }
+std::string style_word(platform::Answer answer) {
+    return answer == platform::Answer::Yes ? "yes" : answer == platform::Answer::No ? "no" : "ok";
+}
 
 }  // namespace
 
@@ -85,13 +87,13 @@ const std::map<std::string, Interpreter::Command>& Interpreter::commands() {
 }
 
 std::string Interpreter::run(const std::string& line) {
-    const auto [word, rest] = word_and_rest(from_utf8(line));
-    if (trimmed(line).empty() || word.starts_with('#') || finished_) return {};
+    const auto [word, rest] = word_and_rest(platform::from_utf8(line));
+    if (base::trimmed(line).empty() || word.starts_with('#') || finished_) return {};
     const auto command = commands().find(word);
     const bool after_the_end = word == "clipboard" || word == "opened" || word == "boxes" || word == "quit";
     if (programma.windows.ended() && !after_the_end) return "ended";
     if (command == commands().end()) return error("no command " + word);
-    const std::string answer = carry_out(command->second, rest);
+    std::string answer = carry_out(command->second, rest);
     if (answer.starts_with("error: ") || programma.windows.ended()) return answer;
     const std::string difference = stage_->difference();
     return difference.empty() ? answer : error(difference);
@@ -99,12 +101,12 @@ std::string Interpreter::run(const std::string& line) {
 
 std::string Interpreter::error(const std::string& why) {
     failed_ = true;
-    return "error: " + to_utf8(escaped(why));
+    return "error: " + platform::to_utf8(escaped(why));
 }
 
 std::string Interpreter::carry_out(Command command, const std::string& arguments) {
     try {
-        return to_utf8((this->*command)(arguments));
+        return platform::to_utf8((this->*command)(arguments));
     } catch (const CommandError& wrong) {
         return error(wrong.what());
     } catch (const std::exception& failure) {
@@ -117,7 +119,7 @@ std::string Interpreter::carry_out(Command command, const std::string& arguments
 }
 
 std::string Interpreter::start(const std::string&) {
-    ::start(programma);
+    app::start(programma);
     return "ok";
 }
 
@@ -203,7 +205,7 @@ std::string Interpreter::wait(const std::string& arguments) {
 }
 
 std::string Interpreter::answer(const std::string& arguments) {
-    for (const Answer answer : {Answer::Yes, Answer::No, Answer::Ok}) {
+    for (const platform::Answer answer : {platform::Answer::Yes, platform::Answer::No, platform::Answer::Ok}) {
         if (style_word(answer) != arguments) continue;
         platform.answers.push_back(answer);
         return "ok";
@@ -225,7 +227,8 @@ std::string Interpreter::screens(const std::string&) {
 
 std::string Interpreter::shared(const std::string& arguments) {
     std::string text;
-    if (!gedeelde_variabele(programma.gedeeld, arguments, text)) throw CommandError("no variable " + arguments);
+    if (!services::gedeelde_variabele(programma.gedeeld, arguments, text))
+        throw CommandError("no variable " + arguments);
     return value(text);
 }
 
@@ -245,7 +248,7 @@ std::string Interpreter::opened(const std::string&) {
 }
 
 std::string Interpreter::keys(const std::string&) {
-    return lines_of(std::exchange(platform.keys, {}), [](const KeyRecord& record) {
+    return lines_of(std::exchange(platform.keys, {}), [](const platform::KeyRecord& record) {
         return std::to_string(record.virtual_key) + " " + std::to_string(record.scan_code) + " " +
                std::to_string(record.flags);
     });

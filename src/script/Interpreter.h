@@ -32,7 +32,7 @@ private:
 
 public:
     ScriptPlatform& platform;
-    Programma programma;
+    services::Programma programma;
 
 private:
     using Command = std::string (Interpreter::*)(const std::string& arguments);

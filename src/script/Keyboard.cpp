@@ -7,7 +7,7 @@
 #include "forms/Form.h"
 #include "forms/TextBox.h"
 #include "forms/User.h"
-#include "services/Toetsenbord.h"
+#include "services/KeyLayout.h"
 
 namespace script::keyboard {
 
@@ -86,11 +86,11 @@ void erase(forms::Windows& windows) {
     if (forms::TextBox* box = focused_box(windows)) forms::user::type(*box, "");
 }
 
-void send(forms::Windows& windows, const std::vector<KeyRecord>& records) {
+void send(forms::Windows& windows, const std::vector<platform::KeyRecord>& records) {
     bool shift = false;
-    for (const KeyRecord& record : records) {
+    for (const platform::KeyRecord& record : records) {
         const bool up = record.flags & kKeyUp;
-        if (record.virtual_key == toetsenbord::kShift) shift = !up;
+        if (record.virtual_key == services::key_layout::kShift) shift = !up;
         forms::TextBox* box = focused_box(windows);
         if (up || !box) continue;
         if (record.flags & kUnicode) {

@@ -15,6 +15,6 @@ void type(forms::Windows& windows, const std::string& text);
 // Deletes what is selected.
 void erase(forms::Windows& windows);
 // Moves the caret or the selection, deletes or types. The caret stands at the end of the selection.
-void send(forms::Windows& windows, const std::vector<KeyRecord>& records);
+void send(forms::Windows& windows, const std::vector<platform::KeyRecord>& records);
 
 }  // namespace script::keyboard

@@ -17,12 +17,12 @@ namespace {
 std::string part_property(const Target& target, const std::string& property) {
     if (const auto* grid = dynamic_cast<forms::FlexGrid*>(target.control)) {
         const forms::FlexGrid::Cell& cell = grid->cell(target.row, target.col);
-        if (equal_ignoring_case(property, "Text")) return cell.text;
-        if (equal_ignoring_case(property, "CellBackColor")) return forms::property_text(cell.colour);
+        if (base::equal_ignoring_case(property, "Text")) return cell.text;
+        if (base::equal_ignoring_case(property, "CellBackColor")) return forms::property_text(cell.colour);
     }
     if (const auto* list = dynamic_cast<forms::ListBox*>(target.control)) {
-        if (equal_ignoring_case(property, "Text")) return list->List(target.row);
-        if (equal_ignoring_case(property, "Selected")) return forms::property_text(list->Selected(target.row));
+        if (base::equal_ignoring_case(property, "Text")) return list->List(target.row);
+        if (base::equal_ignoring_case(property, "Selected")) return forms::property_text(list->Selected(target.row));
     }
     throw CommandError("no property " + property);
 }
@@ -30,12 +30,12 @@ std::string part_property(const Target& target, const std::string& property) {
 // Values that are no properties of their own.
 bool derived_property(const forms::Control& control, const std::string& property, std::string& value) {
     if (const auto* list = dynamic_cast<const forms::ListBox*>(&control)) {
-        if (equal_ignoring_case(property, "ListCount")) value = std::to_string(list->ListCount());
-        if (equal_ignoring_case(property, "Text")) value = list->Text();
-        return equal_ignoring_case(property, "ListCount") || equal_ignoring_case(property, "Text");
+        if (base::equal_ignoring_case(property, "ListCount")) value = std::to_string(list->ListCount());
+        if (base::equal_ignoring_case(property, "Text")) value = list->Text();
+        return base::equal_ignoring_case(property, "ListCount") || base::equal_ignoring_case(property, "Text");
     }
     if (const auto* grid = dynamic_cast<const forms::FlexGrid*>(&control)) {
-        if (!equal_ignoring_case(property, "Text")) return false;
+        if (!base::equal_ignoring_case(property, "Text")) return false;
         value = grid->Text();
         return true;
     }
@@ -152,7 +152,7 @@ std::string property_of(const forms::Windows& windows, const std::string& name) 
     if (target.part) return part_property(target, property);
     std::string value;
     if (target.control && derived_property(*target.control, property, value)) return value;
-    if (!target.control && equal_ignoring_case(property, "ActiveControl")) {
+    if (!target.control && base::equal_ignoring_case(property, "ActiveControl")) {
         return target.form->focus() ? target.form->focus()->name() : std::string();
     }
     const forms::PropertyOwner& owner =

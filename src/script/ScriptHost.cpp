@@ -37,7 +37,9 @@ Refusal pressed(forms::Control& control, Action click) {
 }  // namespace
 
 ScriptHost::ScriptHost(std::string program_folder) : platform_(std::move(program_folder)) {
-    platform_.KeysSent = [this](const std::vector<KeyRecord>& records) { keyboard::send(windows(), records); };
+    platform_.KeysSent = [this](const std::vector<platform::KeyRecord>& records) {
+        keyboard::send(windows(), records);
+    };
 }
 
 void ScriptHost::dispatch_ended(forms::Windows& windows) {

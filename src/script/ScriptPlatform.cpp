@@ -4,18 +4,21 @@
 
 #include "platform/Files.h"
 #include "platform/SpecialFolders.h"
+#include "services/Settings.h"
 
 namespace script {
 
 std::string ScriptPlatform::special_folder(int number) const {
     const auto given = special_folders.find(number);
-    return given == special_folders.end() ? special_folder_of(program_folder_, number) : given->second;
+    return given == special_folders.end()
+               ? platform::special_folder_of(services::settings_file(program_folder_), number)
+               : given->second;
 }
 
-Answer ScriptPlatform::message_box(int style, const std::string& title, const std::string& text) {
+platform::Answer ScriptPlatform::message_box(int style, const std::string& title, const std::string& text) {
     if (while_box_stands) while_box_stands();
-    const bool question = style == box_style::kQuestion || style == box_style::kInformationYesNo;
-    Answer answer = Answer::Ok;
+    const bool question = style == platform::box_style::kQuestion || style == platform::box_style::kInformationYesNo;
+    platform::Answer answer = platform::Answer::Ok;
     if (!answers.empty()) {
         answer = answers.front();
         answers.pop_front();
@@ -33,7 +36,7 @@ void ScriptPlatform::open(const std::string& file, const std::string& parameters
 bool ScriptPlatform::download(const std::string& url, const std::string& path) {
     const auto found = served.find(url);
     if (found == served.end() || found->second.empty()) return false;
-    copy_file(found->second, path);
+    platform::copy_file(found->second, path);
     return true;
 }
 
@@ -54,7 +57,7 @@ std::string ScriptPlatform::volume_label(const std::string& root) {
     return drive ? drive->label : std::string();
 }
 
-void ScriptPlatform::send_keys(const std::vector<KeyRecord>& records) {
+void ScriptPlatform::send_keys(const std::vector<platform::KeyRecord>& records) {
     keys.insert(keys.end(), records.begin(), records.end());
     if (KeysSent) KeysSent(records);
 }

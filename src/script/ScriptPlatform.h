@@ -12,7 +12,7 @@ namespace script {
 
 // A platform without a window system, network, sticks or viewers: what is there is told to it, and what was asked of
 // it can be looked at.
-class ScriptPlatform : public Platform {
+class ScriptPlatform : public platform::Platform {
 public:
     explicit ScriptPlatform(std::string program_folder) : program_folder_(std::move(program_folder)) {}
 
@@ -20,7 +20,7 @@ public:
         int style;
         std::string title;
         std::string text;
-        Answer answer;
+        platform::Answer answer;
     };
     struct Opened {
         std::string file;
@@ -38,10 +38,10 @@ public:
         std::string question;
     };
 
-    std::deque<Answer> answers;
+    std::deque<platform::Answer> answers;
     std::vector<Box> boxes;
     std::vector<Opened> opened;
-    std::vector<KeyRecord> keys;
+    std::vector<platform::KeyRecord> keys;
     std::vector<Drive> drive_list;
     std::map<std::string, std::string> served;  // URL to file; an empty file name for a download that fails
     std::map<int, std::string> special_folders;
@@ -52,12 +52,12 @@ public:
     // Called before a box is answered; for tests that act while one stands.
     std::function<void()> while_box_stands;
     // What the keys that the program sends do.
-    std::function<void(const std::vector<KeyRecord>&)> KeysSent;
+    std::function<void(const std::vector<platform::KeyRecord>&)> KeysSent;
 
     std::string program_folder() const override { return program_folder_; }
     std::string special_folder(int number) const override;
     bool another_instance_runs() override { return other_instance; }
-    Answer message_box(int style, const std::string& title, const std::string& text) override;
+    platform::Answer message_box(int style, const std::string& title, const std::string& text) override;
     void set_clipboard(const std::string& text) override { clipboard = text; }
     void open(const std::string& file, const std::string& parameters, const std::string& folder) override;
     void show_help(const std::string& file) override { open(file, "", ""); }
@@ -66,7 +66,7 @@ public:
     std::vector<std::string> drives() override;
     int drive_type(const std::string& root) override;
     std::string volume_label(const std::string& root) override;
-    void send_keys(const std::vector<KeyRecord>& records) override;
+    void send_keys(const std::vector<platform::KeyRecord>& records) override;
     bool caps_lock() const override { return caps_lock_on; }
 
 private:

@@ -22,7 +22,7 @@ public:
         attached();
     }
 
-    forms::Size screen_size() const override { return screen; }
+    forms::Size screen_size(const forms::Form&) const override { return screen; }
     void dispatch_ended(forms::Windows& windows) override { clock.follow(windows); }
 
     // Hands. What a user cannot do is refused; a line or a cell that is not there is a failure. A click gives the

@@ -8,6 +8,7 @@
 #include "desktop/FormWindow.h"
 #include "desktop/QtHost.h"
 #include "desktop/Text.h"
+#include "services/Settings.h"
 
 namespace script_desktop {
 
@@ -17,23 +18,25 @@ namespace {
 constexpr int kMostTries = 1000;
 constexpr int kPatience = 3000;  // milliseconds
 
-Qt::Key key_of(int style, Answer answer) {
-    if (style == box_style::kInformation) return Qt::Key_Return;  // whatever was queued
-    return answer == Answer::Yes ? Qt::Key_J : answer == Answer::No ? Qt::Key_N : Qt::Key_Return;
+Qt::Key key_of(int style, platform::Answer answer) {
+    if (style == platform::box_style::kInformation) return Qt::Key_Return;  // whatever was queued
+    return answer == platform::Answer::Yes ? Qt::Key_J : answer == platform::Answer::No ? Qt::Key_N : Qt::Key_Return;
 }
 
 }  // namespace
 
 DesktopPlatform::DesktopPlatform(desktop::QtHost& host, const std::string& program_folder)
-    : ScriptPlatform(program_folder), host_(host), real_(host, program_folder) {}
+    : ScriptPlatform(program_folder),
+      host_(host),
+      real_(host, program_folder, services::settings_file(program_folder)) {}
 
-Answer DesktopPlatform::message_box(int style, const std::string& title, const std::string& text) {
-    const Answer wanted = ScriptPlatform::message_box(style, title, text);
+platform::Answer DesktopPlatform::message_box(int style, const std::string& title, const std::string& text) {
+    const platform::Answer wanted = ScriptPlatform::message_box(style, title, text);
     QTimer::singleShot(0, [this, box = boxes.back()] { answer_by_key(box, 0); });
-    const Answer given = real_.message_box(style, title, text);
+    const platform::Answer given = real_.message_box(style, title, text);
     // As a window manager does when the box has gone.
     if (host_.front()) host_.front()->activateWindow();
-    if (style == box_style::kInformation) return wanted;
+    if (style == platform::box_style::kInformation) return wanted;
     if (given != wanted) difference_ = "the box was answered " + std::to_string(static_cast<int>(given)) + ": " + text;
     return given;
 }
@@ -62,7 +65,7 @@ void DesktopPlatform::set_clipboard(const std::string& text) {
     real_.set_clipboard(text);
 }
 
-void DesktopPlatform::send_keys(const std::vector<KeyRecord>& records) {
+void DesktopPlatform::send_keys(const std::vector<platform::KeyRecord>& records) {
     ScriptPlatform::send_keys(records);
     real_.send_keys(records);
 }

@@ -12,9 +12,9 @@ class DesktopPlatform final : public script::ScriptPlatform {
 public:
     DesktopPlatform(desktop::QtHost& host, const std::string& program_folder);
 
-    Answer message_box(int style, const std::string& title, const std::string& text) override;
+    platform::Answer message_box(int style, const std::string& title, const std::string& text) override;
     void set_clipboard(const std::string& text) override;
-    void send_keys(const std::vector<KeyRecord>& records) override;
+    void send_keys(const std::vector<platform::KeyRecord>& records) override;
 
     // What was wrong with the boxes since the last time; empty for nothing.
     std::string take_difference() { return std::exchange(difference_, {}); }

@@ -171,8 +171,8 @@ void DesktopStage::activate(forms::Form& form) {
 
 void DesktopStage::resize(forms::Form& form, double width, double height) {
     desktop::FormWindow* window = host_.window(&form);
-    const desktop::Scale& scale = host_.scale();
     if (window && form.is_sizable()) {
+        const desktop::Scale& scale = window->scale();
         window->windowHandle()->resize(scale.pixels(width), scale.pixels(height));
     } else {
         forms::user::resize(form, width, height);  // no user can, but a window manager may

@@ -189,7 +189,7 @@ std::string difference(const forms::Control& control, const desktop::FormWindow&
     comparison.expect("Visible", control.visible_to_user(), view && view->widget().isVisible());
     if (!view || !control.visible_to_user()) return comparison.found();
     comparison.expect("Enabled", control.enabled_for_user(), view->widget().isEnabled());
-    compare_place(comparison, control, view->widget(), window.host().scale());
+    compare_place(comparison, control, view->widget(), window.scale());
     compare_kind(comparison, control, *view);
     return comparison.found();
 }
@@ -207,14 +207,17 @@ std::string difference(const forms::Form& form, const desktop::FormWindow& windo
     comparison.expect("Visible", form.Visible(), window.isVisible());
     if (!form.Visible()) return comparison.found();
     comparison.expect("Caption", desktop::to_qt(form.Caption()), window.windowTitle());
-    const desktop::Scale& scale = window.host().scale();
+    const desktop::Scale& scale = window.scale();
     if (form.WindowState() != forms::WindowState::Minimised) {
         comparison.expect("size", QRect(0, 0, scale.pixels(form.Width), scale.pixels(form.Height)), window.rect());
     }
     // A click on a window that another one covers at once leaves it with a focus that no key can reach; it is put right
     // when the window comes in front.
     const forms::Control* focus = window.isActiveWindow() ? form.focus() : nullptr;
-    if (focus && focus->visible_to_user() && focus->enabled_for_user()) {
+    // Where the program parked it, the keyboard may be where the screen leaves it when all is over.
+    const forms::Control* refuge = window.keyboard().refuge();
+    const bool in_refuge = focus && !focus->TabStop() && refuge && window.keyboard().control() == refuge;
+    if (focus && focus->visible_to_user() && focus->enabled_for_user() && !in_refuge) {
         comparison.expect("ActiveControl", desktop::to_qt(name_of(*focus)), name_of_focus(form, window));
     }
     return comparison.found();

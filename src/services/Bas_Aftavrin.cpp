@@ -11,6 +11,8 @@
 #include "resources/PictureTable.h"
 #include "services/Foutpad.h"
 
+namespace services {
+
 namespace Bas_Aftavrin {
 
 std::string LeesResString(Programma& programma, int nummer) {
@@ -21,13 +23,13 @@ std::string LeesResString(Programma& programma, int nummer) {
         while (cijfers.size() < 3)
             cijfers.insert(0, "0");
         if (cijfers.size() != 5) cijfers.insert(0, std::to_string(programma.gedeeld.taalPrefix));
-        tekst = resources::message_text(numeric_value(cijfers));
+        tekst = resources::message_text(base::numeric_value(cijfers));
     });
     return tekst;
 }
 
 forms::Picture LaadPlaatje(int nummer) {
-    if (!resources::has_picture(nummer)) throw Fout(FoutNummer::NoSuchResource, std::to_string(nummer));
+    if (!resources::has_picture(nummer)) throw base::Fout(base::FoutNummer::NoSuchResource, std::to_string(nummer));
     return {nummer, {}};
 }
 
@@ -35,8 +37,8 @@ void SchrijfINI(Programma& programma, const std::string& sectie, const std::stri
                 const std::string& bestand) {
     Foutpad(programma, "Bas_Aftavrin - General - SchrijfINI", [&] {
         try {
-            write_setting(bestand, sectie, sleutel, waarde);
-        } catch (const Fout&) {  // A setting that can't be kept is no reason to stop.
+            platform::write_setting(bestand, sectie, sleutel, waarde);
+        } catch (const base::Fout&) {  // A setting that can't be kept is no reason to stop.
         }
     });
 }
@@ -46,7 +48,7 @@ std::string LeesIni(Programma& programma, const std::string& sectie, const std::
     constexpr std::size_t kMost = 254;
     programma.gedeeld.iniWaarde.clear();
     Foutpad(programma, "Bas_Aftavrin - General - LeesIni",
-            [&] { programma.gedeeld.iniWaarde = left(read_setting(bestand, sectie, sleutel), kMost); });
+            [&] { programma.gedeeld.iniWaarde = base::left(platform::read_setting(bestand, sectie, sleutel), kMost); });
     return programma.gedeeld.iniWaarde;
 }
 
@@ -58,26 +60,27 @@ std::string GetSpecialfolder(Programma& programma, int nummer) {
 }
 
 std::string ZoekRVLX(Programma& programma) {
-    for (const int nummer : {kProgramFiles, kProgramFilesX86}) {
-        const std::string map = trimmed(replaced(GetSpecialfolder(programma, nummer), std::string(1, '\0'), ""));
-        if (!map.empty() && BestandStatus(join_path(join_path(map, "RVLX"), "RVLX.exe")) == 1) return map;
+    for (const int nummer : {platform::kProgramFiles, platform::kProgramFilesX86}) {
+        std::string map = base::trimmed(base::replaced(GetSpecialfolder(programma, nummer), std::string(1, '\0'), ""));
+        if (!map.empty() && BestandStatus(platform::join_path(platform::join_path(map, "RVLX"), "RVLX.exe")) == 1)
+            return map;
     }
     return {};
 }
 
 int BestandStatus(const std::string& pad) {
     try {
-        return file_length(pad) > 0 ? 1 : 0;
-    } catch (const Fout&) {
+        return platform::file_length(pad) > 0 ? 1 : 0;
+    } catch (const base::Fout&) {
         return 0;
     }
 }
 
 void MaakPad(std::string& pad) {
-    if (!pad.ends_with(kPathSeparator)) pad += kPathSeparator;
+    if (!pad.ends_with(platform::kPathSeparator)) pad += platform::kPathSeparator;
     try {
-        make_folders(pad);
-    } catch (const Fout&) {  // A folder that can't be made shows up when it is used.
+        platform::make_folders(pad);
+    } catch (const base::Fout&) {  // A folder that can't be made shows up when it is used.
     }
 }
 
@@ -97,7 +100,7 @@ bool Internetverbinding(Programma& programma) {
 }
 
 std::string Server(Programma& programma) {
-    const std::string server = read_setting(programma.instellingen(), "Platform", "Server");
+    const std::string server = platform::read_setting(programma.instellingen(), "Platform", "Server");
     return server.empty() ? "www.zandolin.example" : server;
 }
 
@@ -114,3 +117,5 @@ void SluitAndereSchermen(Programma& programma) {
 }
 
 }  // namespace Bas_Aftavrin
+
+}  // namespace services

@@ -11,6 +11,8 @@ namespace forms {
 class Form;
 }
 
+namespace services {
+
 // General services: messages and pictures by number, settings, folders, list search, rescaling of a screen.
 namespace Bas_Aftavrin {
 
@@ -57,3 +59,5 @@ void BewaarMaten(Programma& programma, const forms::Form& form);
 void PasMatenAan(Programma& programma, forms::Form& form);
 
 }  // namespace Bas_Aftavrin
+
+}  // namespace services

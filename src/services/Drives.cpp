@@ -5,13 +5,16 @@
 #include "base/Text.h"
 #include "services/Foutpad.h"
 
+namespace services {
+
 namespace Bas_Aftavrin {
 
 namespace {
 
 constexpr char kNul = '\0';
 
-bool heeft_letter(const std::string& schijf) { return schijf.size() >= 2 && schijf[1] == ':'; }
+// A folder below a letter may be a stick too, and stays as it is spelled.
+bool heeft_letter(const std::string& schijf) { return (schijf.size() == 2 || schijf.size() == 3) && schijf[1] == ':'; }
 
 std::string naam_van_volume(Programma& programma, const std::string& schijf) {
     try {
@@ -43,7 +46,7 @@ void DisplyDriveTypes(Programma& programma, forms::ListBox& lstDriveType, forms:
         lstDriveNaam.Clear();
         for (std::size_t at = 0; at < schijven.size() && schijven[at] != kNul;) {
             const std::string schijf = schijven.substr(at, schijven.find(kNul, at) - at);
-            lstDriveType.AddItem(heeft_letter(schijf) ? upper_case(schijf) : schijf);
+            lstDriveType.AddItem(heeft_letter(schijf) ? base::upper_case(schijf) : schijf);
             at += schijf.size() + 1;
         }
         for (int i = 0; i < lstDriveType.ListCount(); ++i) {
@@ -59,7 +62,7 @@ std::string WatVoorDriveType(Programma& programma, const std::string& schijf) {
     Foutpad(programma, "Bas_Aftavrin - General - WatVoorDriveType", [&] {
         switch (programma.platform.drive_type(schijf)) {
             case 2: {
-                const bool diskette = heeft_letter(schijf) && upper_case(schijf) < "C";
+                const bool diskette = heeft_letter(schijf) && base::upper_case(schijf) < "C";
                 woord = diskette ? "" : "USB-Drive";
                 break;
             }
@@ -83,3 +86,5 @@ std::string WatVoorDriveType(Programma& programma, const std::string& schijf) {
 }
 
 }  // namespace Bas_Aftavrin
+
+}  // namespace services

@@ -5,6 +5,8 @@
 #include "forms/ListBox.h"
 #include "services/Programma.h"
 
+namespace services {
+
 // Finding a USB stick among the drives. On a platform without drive letters a mount point takes the letter's place.
 namespace Bas_Aftavrin {
 
@@ -20,3 +22,5 @@ void DisplyDriveTypes(Programma& programma, forms::ListBox& lstDriveType, forms:
 std::string WatVoorDriveType(Programma& programma, const std::string& schijf);
 
 }  // namespace Bas_Aftavrin
+
+}  // namespace services

@@ -6,6 +6,8 @@
 #include "base/Fout.h"
 #include "services/Programma.h"
 
+namespace services {
+
 // Fills foutPlaats, foutNummer and foutNaam and shows the report.
 void meld_fout(Programma& programma, const std::string& plaats, int nummer, const std::string& naam);
 
@@ -15,9 +17,11 @@ template <class Body>
 void Foutpad(Programma& programma, const std::string& plaats, Body&& body) {
     try {
         body();
-    } catch (const Fout& fout) {
+    } catch (const base::Fout& fout) {
         meld_fout(programma, plaats, fout.nummer(), fout.what());
     } catch (const std::exception& other) {
-        meld_fout(programma, plaats, static_cast<int>(FoutNummer::Internal), other.what());
+        meld_fout(programma, plaats, static_cast<int>(base::FoutNummer::Internal), other.what());
     }
 }
+
+}  // namespace services

@@ -5,6 +5,8 @@
 
 #include "forms/Property.h"
 
+namespace services {
+
 namespace {
 
 using Reader = std::function<std::string(const Gedeeld&)>;
@@ -59,9 +61,11 @@ const std::map<std::string, Reader>& readers() {
 
 bool gedeelde_variabele(const Gedeeld& gedeeld, const std::string& naam, std::string& waarde) {
     for (const auto& [known, read] : readers()) {
-        if (!equal_ignoring_case(known, naam)) continue;
+        if (!base::equal_ignoring_case(known, naam)) continue;
         waarde = read(gedeeld);
         return true;
     }
     return false;
 }
+
+}  // namespace services

@@ -4,6 +4,8 @@
 
 #include "base/Text.h"
 
+namespace services {
+
 // The shared variables of the program. They live for the run; routines read and write them without handing them over,
 // and the order of the calls keeps them right.
 struct Gedeeld {
@@ -20,8 +22,8 @@ struct Gedeeld {
     double foutNummer = 0;
     std::string foutNaam;
 
-    Pieces delen;       // result of every split
-    std::string regel;  // line buffer
+    base::Pieces delen;  // result of every split
+    std::string regel;   // line buffer
     std::string iniWaarde;
 
     // The play counters.
@@ -52,3 +54,5 @@ struct Gedeeld {
 
 // The value of a shared variable by its name as text; a name that is none gives false.
 bool gedeelde_variabele(const Gedeeld& gedeeld, const std::string& naam, std::string& waarde);
+
+}  // namespace services

@@ -7,14 +7,16 @@
 #include "forms/Form.h"
 #include "services/Bas_Aftavrin.h"
 
+namespace services {
+
 namespace Bas_Aftavrin {
 
 namespace {
 
 // The two lists of names differ on purpose: the record of a control that one of them skips is simply left alone.
 bool meet(const std::string& naam) {
-    return naam != "imaList" && lower_case(naam) != "hmenu" && !naam.starts_with("tim") && naam != "cmdlgKleuren" &&
-           naam != "dialBestand";
+    return naam != "imaList" && base::lower_case(naam) != "hmenu" && !naam.starts_with("tim") &&
+           naam != "cmdlgKleuren" && naam != "dialBestand";
 }
 
 bool schaalt(const std::string& naam) {
@@ -54,3 +56,5 @@ void PasMatenAan(Programma& programma, forms::Form& form) {
 }
 
 }  // namespace Bas_Aftavrin
+
+}  // namespace services

@@ -4,6 +4,8 @@
 
 #include "base/Text.h"
 
+namespace services {
+
 namespace {
 
 std::string without_carriage_return(std::string line, std::size_t shortest) {
@@ -20,12 +22,12 @@ void Knip_Tekst(const forms::TextBox& doos, forms::ListBox& lstKnipTekst) {
         const auto begin = static_cast<std::size_t>(doos.LineIndex(i));
         const int next = doos.LineIndex(i + 1);
         if (next < 1) {
-            lstKnipTekst.AddItem(without_carriage_return(trimmed(text.substr(begin)), 2));
+            lstKnipTekst.AddItem(without_carriage_return(base::trimmed(text.substr(begin)), 2));
             continue;
         }
         // The line's last character is left out: the blank of a soft break, or the line feed of a hard one.
         const std::string line = text.substr(begin, static_cast<std::size_t>(next) - 1 - begin);
-        lstKnipTekst.AddItem(without_carriage_return(trimmed(line), 1));
+        lstKnipTekst.AddItem(without_carriage_return(base::trimmed(line), 1));
     }
 }
 
@@ -35,3 +37,5 @@ std::string met_regeleinden(const forms::ListBox& lstKnipTekst) {
         tekst += lstKnipTekst.List(i) + "\r\n";
     return tekst;
 }
+
+}  // namespace services

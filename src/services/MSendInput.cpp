@@ -6,153 +6,157 @@
 
 #include "base/Text.h"
 #include "platform/CodePage.h"
+#include "services/KeyLayout.h"
 #include "services/Programma.h"
-#include "services/Toetsenbord.h"
+
+namespace services {
 
 namespace MSendInput {
 
 namespace {
 
-using toetsenbord::Aanslag;
+using key_layout::KeyStroke;
 
-constexpr std::uint32_t kToetsenbord = 1;
+constexpr std::uint32_t kKeyboard = 1;
 constexpr std::uint32_t kExtended = 1;
-constexpr std::uint32_t kLos = 2;
+constexpr std::uint32_t kReleased = 2;
 constexpr std::uint32_t kUnicode = 4;
 
 // What an open modifier holds.
-constexpr unsigned kShiftVast = 1;
-constexpr unsigned kControlVast = 2;
-constexpr unsigned kAltVast = 4;
+constexpr unsigned kShiftHeld = 1;
+constexpr unsigned kControlHeld = 2;
+constexpr unsigned kAltHeld = 4;
 
 // The 16-bit value of a character.
-std::uint16_t unicode_van(char teken) {
-    const std::string utf8 = to_utf8(std::string_view(&teken, 1));
+std::uint16_t unicode_of(char character) {
+    const std::string utf8 = platform::to_utf8(std::string_view(&character, 1));
     const auto byte = [&](std::size_t at) { return static_cast<unsigned>(static_cast<unsigned char>(utf8[at])); };
-    unsigned waarde = byte(0);
-    if (utf8.size() == 2) waarde = (byte(0) & 0x1FU) << 6U | (byte(1) & 0x3FU);
-    if (utf8.size() == 3) waarde = (byte(0) & 0x0FU) << 12U | (byte(1) & 0x3FU) << 6U | (byte(2) & 0x3FU);
-    return static_cast<std::uint16_t>(waarde);
+    unsigned value = byte(0);
+    if (utf8.size() == 2) value = (byte(0) & 0x1FU) << 6U | (byte(1) & 0x3FU);
+    if (utf8.size() == 3) value = (byte(0) & 0x0FU) << 12U | (byte(1) & 0x3FU) << 6U | (byte(2) & 0x3FU);
+    return static_cast<std::uint16_t>(value);
 }
 
 // Reads a text token by token and collects the key events that it stands for.
-class Lezer {
+class Reader {
 public:
-    Lezer(const std::string& tekst, bool caps_lock) : tekst_(tekst), caps_lock_(caps_lock) {}
+    Reader(const std::string& text, bool caps_lock) : text_(text), caps_lock_(caps_lock) {}
 
-    std::vector<KeyRecord> lees() {
-        while (positie_ < tekst_.size())
-            lees_token();
+    std::vector<platform::KeyRecord> read() {
+        while (at_ < text_.size())
+            read_token();
         return std::move(records_);
     }
 
 private:
-    void lees_token() {
-        if (positie_ >= tekst_.size()) return;  // a modifier at the end holds nothing
-        const char teken = tekst_[positie_++];
-        switch (teken) {
+    void read_token() {
+        if (at_ >= text_.size()) return;  // a modifier at the end holds nothing
+        const char character = text_[at_++];
+        switch (character) {
             case '+':
-                return lees_modifier(toetsenbord::kShift, kShiftVast);
+                return read_modifier(key_layout::kShift, kShiftHeld);
             case '^':
-                return lees_modifier(toetsenbord::kControl, kControlVast);
+                return read_modifier(key_layout::kControl, kControlHeld);
             case '%':
-                return lees_modifier(toetsenbord::kAlt, kAltVast);
+                return read_modifier(key_layout::kAlt, kAltHeld);
             case '(':
-                return lees_groep();
+                return read_group();
             case '{':
-                return lees_accolade();
+                return read_braces();
             default:
-                gewoon_teken(teken);
+                plain_character(character);
         }
     }
 
-    void lees_modifier(std::uint16_t toets, unsigned vlag) {
-        voeg_toe(toets, 0, 0);
-        modifierVlaggen_ |= vlag;
-        lees_token();
-        voeg_toe(toets, 0, kLos);
-        modifierVlaggen_ &= ~vlag;
+    void read_modifier(std::uint16_t key, unsigned flag) {
+        add(key, 0, 0);
+        modifierVlaggen_ |= flag;
+        read_token();
+        add(key, 0, kReleased);
+        modifierVlaggen_ &= ~flag;
     }
 
     // Without a closing parenthesis, or with nothing in it, the group is no group: what follows is read as it stands.
-    void lees_groep() {
-        const std::size_t einde = tekst_.find(')', positie_);
-        if (einde == std::string::npos || einde == positie_) return;
-        while (positie_ < einde)
-            gewoon_teken(tekst_[positie_++]);
-        positie_ = einde + 1;
+    void read_group() {
+        const std::size_t end = text_.find(')', at_);
+        if (end == std::string::npos || end == at_) return;
+        while (at_ < end)
+            plain_character(text_[at_++]);
+        at_ = end + 1;
     }
 
     // The content has one character at least, so that {}} names the brace itself.
-    void lees_accolade() {
-        const std::size_t einde = tekst_.find('}', positie_ + 1);
-        if (einde == std::string::npos) return;
-        const Pieces delen = split(std::string_view(tekst_).substr(positie_, einde - positie_), " ");
-        const int aantal = delen.last() >= 1 ? std::max(1, numeric_value(delen[1])) : 1;
-        for (int keer = 0; keer < aantal; ++keer)
-            druk_naam(delen[0]);
-        positie_ = einde + 1;
+    void read_braces() {
+        const std::size_t end = text_.find('}', at_ + 1);
+        if (end == std::string::npos) return;
+        const base::Pieces parts = base::split(std::string_view(text_).substr(at_, end - at_), " ");
+        const int times = parts.last() >= 1 ? std::max(1, base::numeric_value(parts[1])) : 1;
+        for (int time = 0; time < times; ++time)
+            press_name(parts[0]);
+        at_ = end + 1;
     }
 
-    void druk_naam(const std::string& naam) {
-        if (naam.empty()) return;
-        if (const auto benoemd = toetsenbord::toets_van_naam(upper_case(naam))) {
-            druk({benoemd->toets}, benoemd->extended);
-        } else if (const auto aanslag = toetsenbord::aanslag_van(naam[0])) {
-            druk(*aanslag, false);  // Caps Lock has no say in braces.
+    void press_name(const std::string& name) {
+        if (name.empty()) return;
+        if (const auto named = key_layout::named_key(base::upper_case(name))) {
+            press({named->key}, named->extended);
+        } else if (const auto stroke = key_layout::stroke_for(name[0])) {
+            press(*stroke, false);  // Caps Lock has no say in braces.
         } else {
-            stuur_unicode(unicode_van(naam[0]));
+            send_unicode(unicode_of(name[0]));
         }
     }
 
-    void gewoon_teken(char teken) {
-        const std::uint16_t waarde = unicode_van(teken);
-        auto aanslag = waarde <= 255 ? toetsenbord::aanslag_van(teken) : std::nullopt;
-        if (teken == '~') aanslag = Aanslag{toetsenbord::kEnter};
-        if (!aanslag) return stuur_unicode(waarde);
-        const bool letter = (teken >= 'A' && teken <= 'Z') || (teken >= 'a' && teken <= 'z');
-        if (caps_lock_ && letter) aanslag->shift = !aanslag->shift;
-        druk(*aanslag, false);
+    void plain_character(char character) {
+        const std::uint16_t value = unicode_of(character);
+        auto stroke = value <= 255 ? key_layout::stroke_for(character) : std::nullopt;
+        if (character == '~') stroke = KeyStroke{key_layout::kEnter};
+        if (!stroke) return send_unicode(value);
+        const bool letter = (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z');
+        if (caps_lock_ && letter) stroke->shift = !stroke->shift;
+        press(*stroke, false);
     }
 
-    void druk(const Aanslag& aanslag, bool extended) {
-        const bool met_shift = aanslag.shift && (modifierVlaggen_ & kShiftVast) == 0;
-        const std::uint32_t vlaggen = extended ? kExtended : 0;
-        if (met_shift) voeg_toe(toetsenbord::kShift, 0, 0);
-        if (aanslag.control_alt) {
-            voeg_toe(toetsenbord::kControl, 0, 0);
-            voeg_toe(toetsenbord::kAlt, 0, 0);
+    void press(const KeyStroke& stroke, bool extended) {
+        const bool with_shift = stroke.shift && (modifierVlaggen_ & kShiftHeld) == 0;
+        const std::uint32_t flags = extended ? kExtended : 0;
+        if (with_shift) add(key_layout::kShift, 0, 0);
+        if (stroke.control_alt) {
+            add(key_layout::kControl, 0, 0);
+            add(key_layout::kAlt, 0, 0);
         }
-        voeg_toe(aanslag.toets, 0, vlaggen);
-        voeg_toe(aanslag.toets, toetsenbord::scan_code(aanslag.toets), vlaggen + kLos);
-        if (aanslag.control_alt) {
-            voeg_toe(toetsenbord::kControl, 0, kLos);
-            voeg_toe(toetsenbord::kAlt, 0, kLos);
+        add(stroke.key, 0, flags);
+        add(stroke.key, key_layout::scan_code(stroke.key), flags + kReleased);
+        if (stroke.control_alt) {
+            add(key_layout::kControl, 0, kReleased);
+            add(key_layout::kAlt, 0, kReleased);
         }
-        if (met_shift) voeg_toe(toetsenbord::kShift, 0, kLos);
+        if (with_shift) add(key_layout::kShift, 0, kReleased);
     }
 
-    void stuur_unicode(std::uint16_t waarde) {
-        voeg_toe(0, waarde, kUnicode);
-        voeg_toe(0, waarde, kUnicode + kLos);
+    void send_unicode(std::uint16_t value) {
+        add(0, value, kUnicode);
+        add(0, value, kUnicode + kReleased);
     }
 
-    void voeg_toe(std::uint16_t toets, std::uint16_t scan, std::uint32_t vlaggen) {
-        records_.push_back({.type = kToetsenbord, .virtual_key = toets, .scan_code = scan, .flags = vlaggen});
+    void add(std::uint16_t key, std::uint16_t scan, std::uint32_t flags) {
+        records_.push_back({.type = kKeyboard, .virtual_key = key, .scan_code = scan, .flags = flags});
     }
 
-    const std::string& tekst_;
+    const std::string& text_;
     const bool caps_lock_;
-    std::size_t positie_ = 0;  // characters consumed
+    std::size_t at_ = 0;  // characters consumed
     unsigned modifierVlaggen_ = 0;
-    std::vector<KeyRecord> records_;
+    std::vector<platform::KeyRecord> records_;
 };
 
 }  // namespace
 
-void VerstuurToetsen(Programma& programma, const std::string& tekst, bool /*wachten*/) {
-    const std::vector<KeyRecord> records = Lezer(tekst, programma.platform.caps_lock()).lees();
+void VerstuurToetsen(Programma& programma, const std::string& text, bool /*wachten*/) {
+    const std::vector<platform::KeyRecord> records = Reader(text, programma.platform.caps_lock()).read();
     if (!records.empty()) programma.platform.send_keys(records);
 }
 
 }  // namespace MSendInput
+
+}  // namespace services

@@ -2,6 +2,8 @@
 
 #include <string>
 
+namespace services {
+
 class Programma;
 
 // Synthetic key strokes.
@@ -20,3 +22,5 @@ namespace MSendInput {
 void VerstuurToetsen(Programma& programma, const std::string& tekst, bool wachten);
 
 }  // namespace MSendInput
+
+}  // namespace services

@@ -4,6 +4,8 @@
 #include "forms/DirListBox.h"
 #include "forms/ListBox.h"
 
+namespace services {
+
 // Fills a list with the names that the lister read, from the first to the last, or the other way with `volgorde` 1.
 void vul_met_mappen(forms::ListBox& lijst, const forms::DirListBox& mappen, int volgorde);
 
@@ -13,3 +15,5 @@ struct MappenLijst {
     forms::DirListBox& mappen;
     forms::CheckBox& keuze;  // 1: from the last to the first
 };
+
+}  // namespace services

@@ -9,6 +9,9 @@
 #include "platform/Platform.h"
 #include "services/Gedeeld.h"
 #include "services/Schermen.h"
+#include "services/Settings.h"
+
+namespace services {
 
 // What the rescaler keeps of one control: twips and points.
 struct Maat {
@@ -31,9 +34,9 @@ struct Maten {
 // meet.
 class Programma {
 public:
-    Programma(Platform& platform, forms::Host& host);
+    Programma(platform::Platform& platform, forms::Host& host);
 
-    Platform& platform;
+    platform::Platform& platform;
     Gedeeld gedeeld;
     Maten maten;
 
@@ -51,7 +54,7 @@ public:
 
     // A file or folder in the program folder.
     std::string pad(std::string_view naam) const;
-    std::string instellingen() const { return pad("standaardtavrin.ini"); }
+    std::string instellingen() const { return settings_file(platform.program_folder()); }
     // Folder of all packages, or of the package of that name.
     std::string pakketten() const { return pad("aftavrin"); }
     std::string pakket(std::string_view spel) const;
@@ -61,9 +64,11 @@ public:
     void ruim_resten_op();
 
 private:
-    FileTime begonnen_ = std::chrono::system_clock::now();
+    platform::FileTime begonnen_ = std::chrono::system_clock::now();
     bool opgeruimd_ = false;
 };
 
 // Ends the program: no statement after it runs.
 [[noreturn]] void beeindig_programma();
+
+}  // namespace services

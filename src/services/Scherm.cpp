@@ -3,6 +3,8 @@
 #include "forms/Control.h"
 #include "services/Bas_Aftavrin.h"
 
+namespace services {
+
 std::string Scherm::LeesResString(Bericht bericht) const { return Bas_Aftavrin::LeesResString(programma, bericht); }
 
 void Scherm::Form_KeyUp(int key_code) {
@@ -25,14 +27,14 @@ void Scherm::cmdTerug_Click() {
 }
 
 void Scherm::zet_buiten_beeld(forms::Control& control) {
-    control.Left = windows().host().screen_size().width + 10;
+    control.Left = windows().host().screen_size(*this).width + 10;
     control.TabStop = false;
 }
 
 void Scherm::centreer() {
-    const forms::Size screen = windows().host().screen_size();
-    Left = static_cast<int>(screen.width - Width) / 2;
-    Top = static_cast<int>(screen.height - Height) / 2;
+    const forms::Size screen = windows().host().screen_size(*this);
+    Left = forms::half(screen.width - Width);
+    Top = forms::half(screen.height - Height);
 }
 
 void Scherm::wissel_opschrift(forms::CheckBox& keuze) const {
@@ -59,3 +61,5 @@ void Scherm::toon_mappen(const MappenLijst& lijst, const std::string& map) {
     lijst.keuze.Caption = LeesResString(lijst.keuze.Value == 1 ? Bericht::SorteerLaagHoog : Bericht::SorteerHoogLaag);
     if (!map.empty()) vul_met_mappen(lijst.lijst, lijst.mappen, lijst.keuze.Value);
 }
+
+}  // namespace services

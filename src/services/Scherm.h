@@ -11,6 +11,8 @@
 #include "services/MappenLijst.h"
 #include "services/Programma.h"
 
+namespace services {
+
 // A screen of the program: a form that knows the program it belongs to. What every screen does stands here: it is left
 // by Escape, by *Terug* and by its close box, and its sort boxes sort.
 class Scherm : public forms::Form {
@@ -40,7 +42,7 @@ public:
 
     template <class Body>
     void Foutpad(const std::string& plaats, Body&& body) {
-        ::Foutpad(programma, plaats, std::forward<Body>(body));
+        services::Foutpad(programma, plaats, std::forward<Body>(body));
     }
 
 protected:
@@ -64,3 +66,5 @@ protected:
 private:
     const Plaatsen plaatsen_;
 };
+
+}  // namespace services

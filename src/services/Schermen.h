@@ -8,6 +8,8 @@
 #include "forms/Form.h"
 #include "forms/Windows.h"
 
+namespace services {
+
 class Programma;
 
 // Makes the screens by their names, so that one screen can open another without knowing it. A name that nobody
@@ -29,3 +31,5 @@ private:
     forms::Windows& windows_;
     std::map<std::string, Maker> makers_;
 };
+
+}  // namespace services

@@ -4,6 +4,8 @@
 
 #include "services/Bas_Aftavrin.h"
 
+namespace services {
+
 namespace {
 
 constexpr forms::Size kInner{8970, 2910};
@@ -48,9 +50,9 @@ void frmTavrin08::Form_Load() {
     }
 
     if (gedeeld.internetOk) {
-        lblWatWaar(3).Caption = replaced(LeesResString(Bericht::FoutMelden), "|", "\n");
+        lblWatWaar(3).Caption = base::replaced(LeesResString(Bericht::FoutMelden), "|", "\n");
     } else {
-        lblWatWaar(3).Caption = replaced(LeesResString(Bericht::GeenVerbinding), "|", "\n");
+        lblWatWaar(3).Caption = base::replaced(LeesResString(Bericht::GeenVerbinding), "|", "\n");
         lblWatWaar(5).Caption = LeesResString(Bericht::AdresVoorMelding);
         cmdInterNet.Visible = false;
     }
@@ -63,7 +65,7 @@ void frmTavrin08::Form_Load() {
         for (const auto& [index, label] : *labels)
             Width = std::max(Width(), label->right() + kMarge);
     }
-    Width = std::max(kInner.width, std::min(Width(), windows().host().screen_size().width - 2 * kMarge));
+    Width = std::max(kInner.width, std::min(Width(), windows().host().screen_size(*this).width - 2 * kMarge));
     centreer();
 }
 
@@ -102,9 +104,11 @@ void frmTavrin08::cmdInterNet_Click() {
 
 void frmTavrin08::cmdAfsluiten_Click() {
     timPic.Enabled = false;
-    programma.platform.message_box(box_style::kInformation, LeesResString(Bericht::ProgrammaNaam),
-                                   replaced(LeesResString(Bericht::MeldingInKlembord), "|", "\n"));
+    programma.platform.message_box(platform::box_style::kInformation, LeesResString(Bericht::ProgrammaNaam),
+                                   base::replaced(LeesResString(Bericht::MeldingInKlembord), "|", "\n"));
     beeindig_programma();
 }
 
 void frmTavrin08::Form_QueryUnload() { beeindig_programma(); }
+
+}  // namespace services

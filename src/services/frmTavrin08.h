@@ -7,6 +7,8 @@
 #include "forms/Timer.h"
 #include "services/Scherm.h"
 
+namespace services {
+
 // The report of a failure: names routine, number and text, puts them on the clipboard, and offers the maker's report
 // page. Leaving it ends the program. Its own routines have no failure path.
 //
@@ -43,3 +45,5 @@ private:
     void cmdInterNet_Click();
     void timPic_Timer();
 };
+
+}  // namespace services

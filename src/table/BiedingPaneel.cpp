@@ -2,6 +2,8 @@
 
 #include <string>
 
+namespace table {
+
 namespace {
 
 constexpr double kEersteRonde = 570;
@@ -20,7 +22,7 @@ template <class T>
 BiedingPaneel::Ronden<T> ronden(forms::Container& box, const std::string& prefix,
                                 const BiedingPaneel::Kolommen& kolommen, double beside, double width, double height) {
     return BiedingPaneel::Ronden<T>([&](int plaats) {
-        return forms::ControlArray<T>(box, prefix + kaart::kPlaatsLetter(plaats), 0, BiedingPaneel::kRondes - 1,
+        return forms::ControlArray<T>(box, prefix + cards::kPlaatsLetter(plaats), 0, BiedingPaneel::kRondes - 1,
                                       column(kolommen.eerste + (plaats - 1) * kolommen.stap + beside, width, height));
     });
 }
@@ -47,3 +49,5 @@ BiedingPaneel::BiedingPaneel(forms::Container& parent, const forms::Rect& place,
         });
     }
 }
+
+}  // namespace table

@@ -6,6 +6,8 @@
 #include "forms/Label.h"
 #include "forms/PictureBox.h"
 
+namespace table {
+
 // The bidding box: for each seat nine rounds of bid, strain picture and annotation mark. Two screens have it.
 struct BiedingPaneel {
     // Where the columns of the seats stand in the box, twips.
@@ -24,8 +26,10 @@ struct BiedingPaneel {
 
     // The rounds 0 to 8 of each seat.
     template <class T>
-    using Ronden = kaart::PerPlaats<forms::ControlArray<T>, FoutNummer::NoSuchArrayElement>;
+    using Ronden = cards::PerPlaats<forms::ControlArray<T>, base::FoutNummer::NoSuchArrayElement>;
     Ronden<forms::Label> lblB;       // lblBN, lblBO, lblBZ, lblBW: the bid
     Ronden<forms::PictureBox> picB;  // picBN and so on: its strain
     Ronden<forms::Label> lblA;       // lblAN and so on: the mark beside it
 };
+
+}  // namespace table

@@ -3,6 +3,8 @@
 #include "cards/Kaarten.h"
 #include "table/BiedingPaneel.h"
 
+namespace table {
+
 class frmTavrin02;
 
 // The rest of the module Kaarten: the routines of the table. Each reports its own failures and then returns as if it
@@ -11,7 +13,7 @@ namespace Kaarten {
 
 // The bidding box. `ToonBieding` reads " bieding.txt" and fills it; a file that ends too early leaves what was read.
 void ZetPositieBieding(frmTavrin02& tafel);
-void ToonBieding(Scherm& scherm, BiedingPaneel& paneel);
+void ToonBieding(services::Scherm& scherm, BiedingPaneel& paneel);
 
 // Places the closed hands, and the information beside them.
 void NoordStartPositie(frmTavrin02& tafel);
@@ -40,3 +42,5 @@ void PlaatsInformatie(frmTavrin02& tafel);
 void LeesVraag(frmTavrin02& tafel);
 
 }  // namespace Kaarten
+
+}  // namespace table

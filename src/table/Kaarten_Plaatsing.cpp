@@ -4,11 +4,15 @@
 #include "table/KaartenTafel.h"
 #include "table/frmTavrin02.h"
 
+namespace table {
+
 namespace Kaarten {
 
 namespace {
 
 using resources::Bericht;
+
+constexpr double kNaamHoogte = 420;  // of a seat's name on the table
 
 // Column of position p in the four rows of a closed side hand, of 4, 3, 3 and 3 cards.
 int kolom_van(int p) { return p <= 4 ? p : (p - 5) % 3 + 1; }
@@ -20,7 +24,7 @@ void zet_kaart(forms::PictureBox& kaart, double left, double top) {
 }
 
 void leg_rij(frmTavrin02& tafel, int plaats, double links, double boven) {
-    for (int p = 1; p <= kaart::kKaartenPerHand; ++p) {
+    for (int p = 1; p <= cards::kKaartenPerHand; ++p) {
         forms::PictureBox& kaart = tafel.picKaart(plaats)(p);
         zet_kaart(kaart, p * tafel.gedeeld.kaartStap + links, boven);
         kaart.Visible = true;
@@ -28,7 +32,7 @@ void leg_rij(frmTavrin02& tafel, int plaats, double links, double boven) {
 }
 
 void leg_blok(frmTavrin02& tafel, int plaats, double links, double boven) {
-    for (int p = 1; p <= kaart::kKaartenPerHand; ++p) {
+    for (int p = 1; p <= cards::kKaartenPerHand; ++p) {
         if (begint_rij(p)) boven += tafel.gedeeld.rijStap;
         forms::PictureBox& kaart = tafel.picKaart(plaats)(p);
         zet_kaart(kaart, kolom_van(p) * tafel.gedeeld.kaartStap + links, boven);
@@ -38,15 +42,15 @@ void leg_blok(frmTavrin02& tafel, int plaats, double links, double boven) {
 
 void keer_kaart(frmTavrin02& tafel, int plaats, int positie, const std::string& code) {
     forms::PictureBox& kaart = tafel.picKaart(plaats)(positie);
-    frmTavrin02::toon_kaart(kaart, numeric_value(code));
-    kaart.Tag = std::to_string(numeric_value(code));
+    frmTavrin02::toon_kaart(kaart, base::numeric_value(code));
+    kaart.Tag = std::to_string(base::numeric_value(code));
 }
 
 // Runs through a seat's cards as an open hand shows them: by suit, the highest card of each first.
 template <class Action>
 void voor_elke_kaart(frmTavrin02& tafel, int plaats, Action action) {
     int positie = 0;
-    for (const kaart::Kleur kleur : kaart::kToonVolgorde) {
+    for (const cards::Kleur kleur : cards::kToonVolgorde) {
         const forms::ListBox& lijst = tafel.lijsten.lstKleur(kleur)(plaats);
         for (int i = lijst.ListCount() - 1; i >= 0; --i)
             action(++positie, lijst.List(i));
@@ -59,7 +63,7 @@ void open_hand(frmTavrin02& tafel, int plaats) {
 }
 
 void maak_zichtbaar(frmTavrin02& tafel, int plaats) {
-    for (int p = 1; p <= kaart::kKaartenPerHand; ++p)
+    for (int p = 1; p <= cards::kKaartenPerHand; ++p)
         tafel.picKaart(plaats)(p).Visible = true;
 }
 
@@ -67,7 +71,7 @@ void maak_zichtbaar(frmTavrin02& tafel, int plaats) {
 bool leg_kleuren(frmTavrin02& tafel, int plaats, double links, double boven, double grens) {
     const double stap = tafel.gedeeld.kaartStap;
     int positie = 0;
-    for (const kaart::Kleur kleur : kaart::kToonVolgorde) {
+    for (const cards::Kleur kleur : cards::kToonVolgorde) {
         const forms::ListBox& lijst = tafel.lijsten.lstKleur(kleur)(plaats);
         int kolom = 0;
         for (int i = lijst.ListCount() - 1; i >= 0; --i) {
@@ -88,45 +92,62 @@ void zet_rechts_naast(forms::Control& control, const forms::Control& links, doub
 // The places of the cards played, in the middle between the four hands. Both divisions are those of whole twips.
 void zet_gespeelde_plekken(frmTavrin02& tafel) {
     auto& picPlay = tafel.picPlay;
-    const double west = tafel.picKaart(kaart::kWest)(4).right();
-    const double oost = tafel.picKaart(kaart::kOost)(1).Left;
-    const double x = west + static_cast<int>(oost - west - picPlay(kaart::kNoord).Width) / 2;
-    picPlay(kaart::kNoord).Move(x, tafel.picKaart(kaart::kNoord)(1).bottom() + 128);
-    picPlay(kaart::kZuid).Move(x, tafel.picKaart(kaart::kZuid)(1).Top - picPlay(kaart::kNoord).Height - 128);
+    const double west = tafel.picKaart(cards::kWest)(4).right();
+    const double oost = tafel.picKaart(cards::kOost)(1).Left;
+    const double x = west + forms::half(oost - west - picPlay(cards::kNoord).Width);
+    picPlay(cards::kNoord).Move(x, tafel.picKaart(cards::kNoord)(1).bottom() + 128);
+    picPlay(cards::kZuid).Move(x, tafel.picKaart(cards::kZuid)(1).Top - picPlay(cards::kNoord).Height - 128);
     const double y =
-        static_cast<int>(picPlay(kaart::kNoord).Top + picPlay(kaart::kZuid).Top + picPlay(kaart::kZuid).Height) / 2 -
-        static_cast<int>(picPlay(kaart::kZuid).Height) / 2;
-    picPlay(kaart::kWest).Move(west + 128, y);
-    picPlay(kaart::kOost).Move(oost - picPlay(kaart::kNoord).Width - 128, y);
-    for (const int plaats : kaart::kPlaatsen)
+        forms::half(picPlay(cards::kNoord).Top + picPlay(cards::kZuid).Top + picPlay(cards::kZuid).Height) -
+        forms::half(picPlay(cards::kZuid).Height);
+    picPlay(cards::kWest).Move(west + 128, y);
+    picPlay(cards::kOost).Move(oost - picPlay(cards::kNoord).Width - 128, y);
+    for (const int plaats : cards::kPlaatsen)
         picPlay(plaats).Visible = true;
 }
 
+// The seats' names stand on the felt, in the four corners that the places of the cards played leave free: each beside
+// its own place, one after the other round the table.
+void schrijf_plaatsnamen(frmTavrin02& tafel) {
+    const forms::PictureBox& noord = tafel.picPlay(cards::kNoord);
+    const forms::PictureBox& oost = tafel.picPlay(cards::kOost);
+    const forms::PictureBox& zuid = tafel.picPlay(cards::kZuid);
+    const forms::PictureBox& west = tafel.picPlay(cards::kWest);
+    const double breedte = noord.Width;
+    const auto naam = [&](int plaats, double left, double top) {
+        return forms::PictureBox::Inscription{tafel.LeesResString(cards::bericht_van_plaats(plaats)),
+                                              {left, top, breedte, kNaamHoogte}};
+    };
+    tafel.picBack.inscribe({naam(cards::kNoord, noord.right(), noord.Top), naam(cards::kOost, oost.Left, oost.bottom()),
+                            naam(cards::kZuid, zuid.Left - breedte, zuid.bottom() - kNaamHoogte),
+                            naam(cards::kWest, west.Left, west.Top - kNaamHoogte)});
+}
+
 void toon_nummer(frmTavrin02& tafel) {
-    Gedeeld& gedeeld = tafel.gedeeld;
-    gedeeld.delen = split(gedeeld.spelNaam, " ");
+    services::Gedeeld& gedeeld = tafel.gedeeld;
+    gedeeld.delen = base::split(gedeeld.spelNaam, " ");
     if (gedeeld.delen.last() == 0) {
         // A name without a blank gets the word before it; the file names are built with the changed name from here on.
         gedeeld.spelNaam = tafel.LeesResString(Bericht::Spel) + " " + gedeeld.spelNaam;
-        gedeeld.delen = split(gedeeld.spelNaam, " ");
+        gedeeld.delen = base::split(gedeeld.spelNaam, " ");
     }
-    tafel.lblNummer.Caption = std::to_string(numeric_value(gedeeld.delen[1]));
+    tafel.lblNummer.Caption = std::to_string(base::numeric_value(gedeeld.delen[1]));
 }
 
 void toon_contract(frmTavrin02& tafel) {
-    Gedeeld& gedeeld = tafel.gedeeld;
-    const std::string pad = bestand(gedeeld, " contract.txt");
-    if (!aanwezig(pad)) return;
-    gedeeld.regel = eerste_regel(pad);
-    gedeeld.delen = split(gedeeld.regel, " ");
+    services::Gedeeld& gedeeld = tafel.gedeeld;
+    const std::string pad = cards::Kaarten::bestand(gedeeld, " contract.txt");
+    if (!cards::Kaarten::aanwezig(pad)) return;
+    gedeeld.regel = cards::Kaarten::eerste_regel(pad);
+    gedeeld.delen = base::split(gedeeld.regel, " ");
     tafel.lblContractWie.Caption = gedeeld.delen[0] + ": " + gedeeld.delen[1];
     const std::string soort = gedeeld.delen[2];
-    for (const kaart::Kleur kleur : kaart::kKleuren) {
-        if (!equal_ignoring_case(soort, kaart::gegevens(kleur).naam)) continue;
-        frmTavrin02::toon_symbool(tafel.picContract, kaart::gegevens(kleur).plaatje);
-        gedeeld.troefLetter = tafel.LeesResString(kaart::gegevens(kleur).letter);
+    for (const cards::Kleur kleur : cards::kKleuren) {
+        if (!base::equal_ignoring_case(soort, cards::gegevens(kleur).naam)) continue;
+        frmTavrin02::toon_symbool(tafel.picContract, cards::gegevens(kleur).plaatje);
+        gedeeld.troefLetter = tafel.LeesResString(cards::gegevens(kleur).letter);
     }
-    if (equal_ignoring_case(soort, "sa")) {
+    if (base::equal_ignoring_case(soort, "sa")) {
         frmTavrin02::toon_symbool(tafel.picContract, resources::plaatje::kSansAtout);
         gedeeld.troefLetter.clear();
     }
@@ -137,21 +158,21 @@ void toon_contract(frmTavrin02& tafel) {
 }
 
 void toon_uitkomst(frmTavrin02& tafel) {
-    Gedeeld& gedeeld = tafel.gedeeld;
-    const std::string pad = bestand(gedeeld, " uitkomst.txt");
-    if (!aanwezig(pad)) return;
-    gedeeld.regel = eerste_regel(pad);
-    gedeeld.delen = split(gedeeld.regel, " - ");
+    services::Gedeeld& gedeeld = tafel.gedeeld;
+    const std::string pad = cards::Kaarten::bestand(gedeeld, " uitkomst.txt");
+    if (!cards::Kaarten::aanwezig(pad)) return;
+    gedeeld.regel = cards::Kaarten::eerste_regel(pad);
+    gedeeld.delen = base::split(gedeeld.regel, " - ");
     const std::string& kaart = gedeeld.delen[1];
     if (!kaart.empty() && kaart[0] >= '0' && kaart[0] <= '3') {
-        const auto kleur = static_cast<kaart::Kleur>(kaart[0] - '0');
-        frmTavrin02::toon_symbool(tafel.picUitkomst, kaart::gegevens(kleur).plaatje);
+        const auto kleur = static_cast<cards::Kleur>(kaart[0] - '0');
+        frmTavrin02::toon_symbool(tafel.picUitkomst, cards::gegevens(kleur).plaatje);
     }
     tafel.lblInfo(1).Move(tafel.lblInfo(0).right() - tafel.lblInfo(1).Width, tafel.lblInfo(0).bottom() + 128);
     zet_rechts_naast(tafel.lblUitkomstWind, tafel.lblInfo(1), 32, tafel.lblInfo(1).Top - 16);
     tafel.lblUitkomstWind.Caption = gedeeld.delen[0] + " - ";
     zet_rechts_naast(tafel.picUitkomst, tafel.lblUitkomstWind, 3, tafel.lblUitkomstWind.Top + 16);
-    tafel.lblUitkomstKaart.Caption = trimmed(middle(kaart, 2));
+    tafel.lblUitkomstKaart.Caption = base::trimmed(base::middle(kaart, 2));
     zet_rechts_naast(tafel.lblUitkomstKaart, tafel.picUitkomst, 32, tafel.lblUitkomstWind.Top);
     tafel.picUitkomst.Visible = true;
     tafel.lblUitkomstKaart.Visible = true;
@@ -161,30 +182,30 @@ void toon_uitkomst(frmTavrin02& tafel) {
 
 void NoordStartPositie(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - NoordStartPositie",
-                  [&] { leg_rij(tafel, kaart::kNoord, tafel.gedeeld.noordLinks, tafel.gedeeld.noordBoven); });
+                  [&] { leg_rij(tafel, cards::kNoord, tafel.gedeeld.noordLinks, tafel.gedeeld.noordBoven); });
 }
 
 void ZuidStartPositie(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - ZuidStartPositie",
-                  [&] { leg_rij(tafel, kaart::kZuid, tafel.gedeeld.zuidLinks, tafel.gedeeld.zuidBoven); });
+                  [&] { leg_rij(tafel, cards::kZuid, tafel.gedeeld.zuidLinks, tafel.gedeeld.zuidBoven); });
 }
 
 void OostStartPositie(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - OostStartPositie",
-                  [&] { leg_blok(tafel, kaart::kOost, tafel.gedeeld.oostLinks, tafel.gedeeld.oostBoven); });
+                  [&] { leg_blok(tafel, cards::kOost, tafel.gedeeld.oostLinks, tafel.gedeeld.oostBoven); });
 }
 
 void WestStartPositie(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - WestStartPositie",
-                  [&] { leg_blok(tafel, kaart::kWest, tafel.gedeeld.westLinks, tafel.gedeeld.westBoven); });
+                  [&] { leg_blok(tafel, cards::kWest, tafel.gedeeld.westLinks, tafel.gedeeld.westBoven); });
 }
 
 void OverigeStartPositie(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - OverigeStartPositie", [&] {
         tafel.gedeeld.troefLetter.clear();
-        for (int p = 1; p <= kaart::kKaartenPerHand; ++p) {
-            for (const int plaats : kaart::kPlaatsen) {
-                tafel.picKaart(plaats)(p).Picture = Bas_Aftavrin::LaadPlaatje(tafel.gedeeld.kaartRugId);
+        for (int p = 1; p <= cards::kKaartenPerHand; ++p) {
+            for (const int plaats : cards::kPlaatsen) {
+                tafel.picKaart(plaats)(p).Picture = services::Bas_Aftavrin::LaadPlaatje(tafel.gedeeld.kaartRugId);
                 tafel.picKaart(plaats)(p).BorderStyle = 0;
             }
         }
@@ -192,6 +213,7 @@ void OverigeStartPositie(frmTavrin02& tafel) {
             tafel.picPlay.Load(plaats);
         tafel.Refresh();
         zet_gespeelde_plekken(tafel);
+        schrijf_plaatsnamen(tafel);
 
         forms::Label& noord_zuid = tafel.lblToonSlagen(0);
         forms::Label& oost_west = tafel.lblToonSlagen(1);
@@ -202,7 +224,7 @@ void OverigeStartPositie(frmTavrin02& tafel) {
         tafel.lblSlagenNZ.Caption = "0";
         tafel.lblSlagenOW.Caption = "0";
 
-        tafel.lblSpel.Move(150, tafel.picKaart(kaart::kNoord)(1).Top + 180);
+        tafel.lblSpel.Move(150, tafel.picKaart(cards::kNoord)(1).Top + 180);
         zet_rechts_naast(tafel.lblNummer, tafel.lblSpel, 180, tafel.lblSpel.Top - 64);
         toon_nummer(tafel);
         toon_contract(tafel);
@@ -212,18 +234,18 @@ void OverigeStartPositie(frmTavrin02& tafel) {
 
 void NoordZijnKaarten(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - NoordZijnKaarten", [&] {
-        open_hand(tafel, kaart::kNoord);
-        maak_zichtbaar(tafel, kaart::kNoord);
+        open_hand(tafel, cards::kNoord);
+        maak_zichtbaar(tafel, cards::kNoord);
     });
 }
 
 void ZuidZijnKaarten(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - ZuidZijnKaarten", [&] {
-        open_hand(tafel, kaart::kZuid);
-        maak_zichtbaar(tafel, kaart::kZuid);
-        for (const kaart::Kleur kleur : kaart::kKleuren) {
+        open_hand(tafel, cards::kZuid);
+        maak_zichtbaar(tafel, cards::kZuid);
+        for (const cards::Kleur kleur : cards::kKleuren) {
             forms::ListBox& doel = tafel.lstZuid(kleur);
-            const forms::ListBox& bron = tafel.lijsten.lstKleur(kleur)(kaart::kZuid);
+            const forms::ListBox& bron = tafel.lijsten.lstKleur(kleur)(cards::kZuid);
             doel.Clear();
             for (int i = bron.ListCount() - 1; i >= 0; --i)
                 doel.AddItem(bron.List(i));
@@ -236,39 +258,41 @@ void OostZijnKaarten(frmTavrin02& tafel) {
         // A row that would run into the box of played cards moves the whole hand one step to the left.
         double links = tafel.gedeeld.oostLinks;
         const double grens = tafel.fraSlagen.Left;
-        while (!leg_kleuren(tafel, kaart::kOost, links, tafel.gedeeld.oostBoven, grens))
+        while (!leg_kleuren(tafel, cards::kOost, links, tafel.gedeeld.oostBoven, grens))
             links -= tafel.gedeeld.kaartStap;
-        maak_zichtbaar(tafel, kaart::kOost);
+        maak_zichtbaar(tafel, cards::kOost);
     });
 }
 
 void WestZijnKaarten(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - WestZijnKaarten", [&] {
         constexpr double kGeenGrens = 1e9;
-        leg_kleuren(tafel, kaart::kWest, tafel.gedeeld.westLinks, tafel.gedeeld.westBoven, kGeenGrens);
-        maak_zichtbaar(tafel, kaart::kWest);
+        leg_kleuren(tafel, cards::kWest, tafel.gedeeld.westLinks, tafel.gedeeld.westBoven, kGeenGrens);
+        maak_zichtbaar(tafel, cards::kWest);
     });
 }
 
 void ToonKaartenDummy(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - ToonKaartenDummy", [&] {
-        const std::string wind = trimmed(tafel.gedeeld.dummyWind);
-        for (const int plaats : kaart::kPlaatsen) {
-            if (wind != tafel.LeesResString(kaart::bericht_van_plaats(plaats))) continue;
+        const std::string wind = base::trimmed(tafel.gedeeld.dummyWind);
+        for (const int plaats : cards::kPlaatsen) {
+            if (wind != tafel.LeesResString(cards::bericht_van_plaats(plaats))) continue;
             open_hand(tafel, plaats);
             // The closed hand of the opening leader shows twelve backs from now on.
-            tafel.picKaart(kaart::vorige_plaats(plaats))(kaart::kKaartenPerHand).Visible = false;
+            tafel.picKaart(cards::vorige_plaats(plaats))(cards::kKaartenPerHand).Visible = false;
         }
     });
 }
 
 void ToonKaartenLeider(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - ToonKaartenLeider", [&] {
-        const std::string wind = trimmed(tafel.gedeeld.leiderWind);
-        for (const int plaats : kaart::kPlaatsen) {
-            if (wind == tafel.LeesResString(kaart::bericht_van_plaats(plaats))) open_hand(tafel, plaats);
+        const std::string wind = base::trimmed(tafel.gedeeld.leiderWind);
+        for (const int plaats : cards::kPlaatsen) {
+            if (wind == tafel.LeesResString(cards::bericht_van_plaats(plaats))) open_hand(tafel, plaats);
         }
     });
 }
 
 }  // namespace Kaarten
+
+}  // namespace table

@@ -4,20 +4,23 @@
 #include "table/KaartenTafel.h"
 #include "table/frmTavrin02.h"
 
+namespace table {
+
 namespace Kaarten {
 
 namespace {
 
 // Code of the opening lead; 0 for a value word or suit digit that is unknown.
 int code_van_uitkomst(const std::string& kaart) {
-    const int rang = kaart::rang_van_uitkomst(trimmed(lower_case(middle(kaart, 2))));
+    const int rang = cards::rang_van_uitkomst(base::trimmed(base::lower_case(base::middle(kaart, 2))));
     if (rang == 0 || kaart[0] < '0' || kaart[0] > '3') return 0;
-    return kaart::code_van(rang, static_cast<kaart::Kleur>(kaart[0] - '0'));
+    return cards::code_van(rang, static_cast<cards::Kleur>(kaart[0] - '0'));
 }
 
-int plaats_van_woord(const Scherm& scherm, const std::string& woord) {
-    for (const int plaats : kaart::kPlaatsen) {
-        if (lower_case(trimmed(woord)) == lower_case(scherm.LeesResString(kaart::bericht_van_plaats(plaats)))) {
+int plaats_van_woord(const services::Scherm& scherm, const std::string& woord) {
+    for (const int plaats : cards::kPlaatsen) {
+        if (base::lower_case(base::trimmed(woord)) ==
+            base::lower_case(scherm.LeesResString(cards::bericht_van_plaats(plaats)))) {
             return plaats;
         }
     }
@@ -26,7 +29,7 @@ int plaats_van_woord(const Scherm& scherm, const std::string& woord) {
 
 // Hides the card of that code; true if the hand shows it open.
 bool verberg_kaart(forms::ControlArray<forms::PictureBox>& hand, int code) {
-    for (int p = 1; p <= kaart::kKaartenPerHand; ++p) {
+    for (int p = 1; p <= cards::kKaartenPerHand; ++p) {
         if (hand(p).Tag != std::to_string(code)) continue;
         hand(p).Visible = false;
         return true;
@@ -36,15 +39,15 @@ bool verberg_kaart(forms::ControlArray<forms::PictureBox>& hand, int code) {
 
 // A closed hand loses cards from its end, without telling which.
 void verberg_laatste_kaart(forms::ControlArray<forms::PictureBox>& hand) {
-    for (int p = kaart::kKaartenPerHand; p >= 1; --p) {
+    for (int p = cards::kKaartenPerHand; p >= 1; --p) {
         if (!hand(p).Visible) continue;
         hand(p).Visible = false;
         return;
     }
 }
 
-const Pieces& speelrij(frmTavrin02& tafel) {
-    tafel.gedeeld.delen = split(tafel.lijsten.lstAfTavrin.List(tafel.gedeeld.slagRij), "|");
+const base::Pieces& speelrij(frmTavrin02& tafel) {
+    tafel.gedeeld.delen = base::split(tafel.lijsten.lstAfTavrin.List(tafel.gedeeld.slagRij), "|");
     return tafel.gedeeld.delen;
 }
 
@@ -52,17 +55,17 @@ const Pieces& speelrij(frmTavrin02& tafel) {
 
 void PlaatdeUitkomst(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - PlaatdeUitkomst", [&] {
-        Gedeeld& gedeeld = tafel.gedeeld;
-        const std::string pad = bestand(gedeeld, " uitkomst.txt");
-        if (aanwezig(pad)) gedeeld.regel = eerste_regel(pad);
-        gedeeld.delen = split(gedeeld.regel, " - ");
+        services::Gedeeld& gedeeld = tafel.gedeeld;
+        const std::string pad = cards::Kaarten::bestand(gedeeld, " uitkomst.txt");
+        if (cards::Kaarten::aanwezig(pad)) gedeeld.regel = cards::Kaarten::eerste_regel(pad);
+        gedeeld.delen = base::split(gedeeld.regel, " - ");
         const int code = code_van_uitkomst(gedeeld.delen[1]);
         const int uitkomer = plaats_van_woord(tafel, gedeeld.delen[0]);
         auto& hand = tafel.picKaart(uitkomer);
 
-        frmTavrin02::toon_kaart(tafel.picPlay(uitkomer), code);
-        gedeeld.dummyWind = tafel.LeesResString(kaart::bericht_van_plaats(kaart::volgende_plaats(uitkomer)));
-        gedeeld.leiderWind = tafel.LeesResString(kaart::bericht_van_plaats(kaart::vorige_plaats(uitkomer)));
+        tafel.leg_kaart(uitkomer, code);
+        gedeeld.dummyWind = tafel.LeesResString(cards::bericht_van_plaats(cards::volgende_plaats(uitkomer)));
+        gedeeld.leiderWind = tafel.LeesResString(cards::bericht_van_plaats(cards::vorige_plaats(uitkomer)));
         gedeeld.aanDeBeurt = uitkomer;
         verberg_kaart(hand, code);
         ToonGespeeldeKaart(tafel);
@@ -76,9 +79,9 @@ void PlaatdeUitkomst(frmTavrin02& tafel) {
 
 void PlaatsKaart(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - PlaatsKaart", [&] {
-        Gedeeld& gedeeld = tafel.gedeeld;
-        if (gedeeld.slagRij >= kaart::kSlagen) {
-            for (const int plaats : kaart::kPlaatsen)
+        services::Gedeeld& gedeeld = tafel.gedeeld;
+        if (gedeeld.slagRij >= cards::kSlagen) {
+            for (const int plaats : cards::kPlaatsen)
                 tafel.picPlay(plaats).Visible = false;
             NoordZijnKaarten(tafel);
             OostZijnKaarten(tafel);
@@ -86,13 +89,13 @@ void PlaatsKaart(frmTavrin02& tafel) {
             WestZijnKaarten(tafel);
             return;
         }
-        const Pieces& delen = speelrij(tafel);
+        const base::Pieces& delen = speelrij(tafel);
         const std::size_t plek = delen[0].find(std::to_string(gedeeld.aanDeBeurt));
-        if (plek == std::string::npos) throw Fout(FoutNummer::InvalidCall, delen[0]);
-        const int code = numeric_value(delen[delen[0][plek] - '0']);
+        if (plek == std::string::npos) throw base::Fout(base::FoutNummer::InvalidCall, delen[0]);
+        const int code = base::numeric_value(delen[delen[0][plek] - '0']);
         auto& hand = tafel.picKaart(gedeeld.aanDeBeurt);
 
-        frmTavrin02::toon_kaart(tafel.picPlay(gedeeld.aanDeBeurt), code);
+        tafel.leg_kaart(gedeeld.aanDeBeurt, code);
         gedeeld.kaartenInSlag += 1;
         if (!verberg_kaart(hand, code)) verberg_laatste_kaart(hand);
         ToonGespeeldeKaart(tafel);
@@ -102,15 +105,15 @@ void PlaatsKaart(frmTavrin02& tafel) {
 
 void ToonGespeeldeKaart(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - ToonGespeeldeKaart", [&] {
-        const Gedeeld& gedeeld = tafel.gedeeld;
+        const services::Gedeeld& gedeeld = tafel.gedeeld;
         const int slag = gedeeld.slagRij + 1;
-        const int nummer = kaart::nummer_van(speelrij(tafel)[gedeeld.aanDeBeurt]);
-        const kaart::Kleur kleur = kaart::kleur_van(nummer);
+        const int nummer = cards::nummer_van(speelrij(tafel)[gedeeld.aanDeBeurt]);
+        const cards::Kleur kleur = cards::kleur_van(nummer);
 
         forms::PictureBox& symbool = tafel.picGespeeld(gedeeld.aanDeBeurt)(slag);
         forms::Label& woord = tafel.lblGespeeld(gedeeld.aanDeBeurt)(slag);
         symbool.Picture = tafel.picSym(static_cast<int>(kleur) + 1).Picture();
-        woord.ForeColor = kaart::gegevens(kleur).tekstkleur;
+        woord.ForeColor = cards::gegevens(kleur).tekstkleur;
         woord.Caption = tafel.lijsten.lstKaarten.List(nummer);
         symbool.BorderStyle = 0;
         symbool.Visible = true;
@@ -120,3 +123,5 @@ void ToonGespeeldeKaart(frmTavrin02& tafel) {
 }
 
 }  // namespace Kaarten
+
+}  // namespace table

@@ -5,6 +5,8 @@
 #include "table/KaartenTafel.h"
 #include "table/frmTavrin02.h"
 
+namespace table {
+
 namespace Kaarten {
 
 namespace {
@@ -16,7 +18,7 @@ constexpr double kLineHeightPerPoint = 15;  // twips
 // The first record whose number at its head is that of the current card; -1 if there is none.
 int record_van_kaart(const frmTavrin02& tafel) {
     for (int i = 0; i < tafel.lstInformatie.ListCount(); ++i) {
-        if (numeric_value(tafel.lstInformatie.List(i)) == tafel.gedeeld.kaartTeller) return i;
+        if (base::numeric_value(tafel.lstInformatie.List(i)) == tafel.gedeeld.kaartTeller) return i;
     }
     return -1;
 }
@@ -30,15 +32,15 @@ void PlaatsInformatie(frmTavrin02& tafel) {
         tafel.txtKnipTekst.Text = "";
         tafel.lstKnipTekst.Clear();
         tafel.txtInformatie.Text = "";
-        Pieces& delen = tafel.gedeeld.delen;
-        delen = split(tafel.lstInformatie.List(record), "|");
-        if (trimmed(delen[1]).empty()) return;
+        base::Pieces& delen = tafel.gedeeld.delen;
+        delen = base::split(tafel.lstInformatie.List(record), "|");
+        if (base::trimmed(delen[1]).empty()) return;
 
         tafel.timSpeelKaart.Enabled = false;
-        tafel.txtKnipTekst.Text = replaced(delen[1], "~", "\r\n");
+        tafel.txtKnipTekst.Text = base::replaced(delen[1], "~", "\r\n");
         tafel.lstKnipTekst.Clear();
-        Knip_Tekst(tafel.txtKnipTekst, tafel.lstKnipTekst);
-        tafel.txtInformatie.Text = met_regeleinden(tafel.lstKnipTekst);
+        services::Knip_Tekst(tafel.txtKnipTekst, tafel.lstKnipTekst);
+        tafel.txtInformatie.Text = services::met_regeleinden(tafel.lstKnipTekst);
         tafel.txtInformatie.Height = kInformatieHoogte;
         tafel.txtInformatie.Visible = true;
         tafel.cmdFocus.SetFocus();
@@ -59,21 +61,21 @@ void LeesVraag(frmTavrin02& tafel) {
         tafel.txtKnipTekst.Text = "";
         tafel.lstKnipTekst.Clear();
         vraag.Width = tafel.bieding.fraBieding.Width;
-        vraag.Move(tafel.bieding.fraBieding.Left, tafel.picKaart(kaart::kOost)(1).Top);
-        vraag.Height = tafel.picKaart(kaart::kZuid)(1).bottom() - vraag.Top;
+        vraag.Move(tafel.bieding.fraBieding.Left, tafel.picKaart(cards::kOost)(1).Top);
+        vraag.Height = tafel.picKaart(cards::kZuid)(1).bottom() - vraag.Top;
 
-        const std::string pad = bestand(tafel.gedeeld, " vraag.txt");
-        if (aanwezig(pad)) {
+        const std::string pad = cards::Kaarten::bestand(tafel.gedeeld, " vraag.txt");
+        if (cards::Kaarten::aanwezig(pad)) {
             std::string& regel = tafel.gedeeld.regel;
             std::string tekst;
-            for (LineReader regels(pad); !regels.at_end();) {
+            for (platform::LineReader regels(pad); !regels.at_end();) {
                 regel = regels.line();
-                tekst += replaced(regel, "~", "\r\n") + "\r\n";
+                tekst += base::replaced(regel, "~", "\r\n") + "\r\n";
             }
             tafel.txtKnipTekst.Text = tekst;
         }
-        Knip_Tekst(tafel.txtKnipTekst, tafel.lstKnipTekst);
-        std::string tekst = met_regeleinden(tafel.lstKnipTekst);
+        services::Knip_Tekst(tafel.txtKnipTekst, tafel.lstKnipTekst);
+        std::string tekst = services::met_regeleinden(tafel.lstKnipTekst);
         tekst.pop_back();  // the line feed alone goes; the carriage return stays
         vraag.Text = tekst;
         vraag.Height = (tafel.lstKnipTekst.ListCount() + kSpareLines) * vraag.FontSize * kLineHeightPerPoint;
@@ -82,3 +84,5 @@ void LeesVraag(frmTavrin02& tafel) {
 }
 
 }  // namespace Kaarten
+
+}  // namespace table

@@ -4,9 +4,14 @@
 #include "cards/Kaarten.h"
 #include "resources/PictureTable.h"
 #include "services/Bas_Aftavrin.h"
+#include "services/Kleuren.h"
 #include "table/KaartenTafel.h"
 
+namespace table {
+
 namespace {
+
+namespace kleuren = services::kleuren;
 
 constexpr forms::Size kInner{19200, 11400};  // until the window is maximised
 constexpr double kKaartBreedte = 1560;
@@ -17,27 +22,23 @@ constexpr double kTussenruimte = 128;
 constexpr double kEersteKolom = 900;
 constexpr double kKolomStap = 1200;
 constexpr double kWoordNaastSymbool = 270;
-constexpr double kRijTop[kaart::kSlagen] = {360, 615, 885, 1140, 1410, 1665, 1935, 2190, 2460, 2715, 2985, 3240, 3510};
+constexpr double kRijTop[cards::kSlagen] = {360, 615, 885, 1140, 1410, 1665, 1935, 2190, 2460, 2715, 2985, 3240, 3510};
 
 constexpr int kTraagst = 3000;  // milliseconds a card, as the two below
 constexpr int kSnelst = 100;
 constexpr int kGewoneSnelheid = 1000;
 
-constexpr Colour kTafelgroen = Colour::rgb(24, 96, 60);
-constexpr Colour kWit = Colour::rgb(255, 255, 255);
-constexpr Colour kPapier = Colour::rgb(252, 250, 240);
-
 double kolom(int plaats) { return kEersteKolom + kKolomStap * (plaats - 1); }
 
 }  // namespace
 
-frmTavrin02::frmTavrin02(Programma& programma)
-    : Scherm(programma, "frmTavrin02", kInner,
-             {.key_up = "frmTavrin02 - Form - KeyUp",
-              .terug = "frmTavrin02 - cmdTerug - Click",
-              .query_unload = "frmTavrin02 - Form - QueryUnload"}),
+frmTavrin02::frmTavrin02(services::Programma& programma)
+    : services::Scherm(programma, "frmTavrin02", kInner,
+                       {.key_up = "frmTavrin02 - Form - KeyUp",
+                        .terug = "frmTavrin02 - cmdTerug - Click",
+                        .query_unload = "frmTavrin02 - Form - QueryUnload"}),
       picKaart([this](int plaats) {
-          return forms::ControlArray<forms::PictureBox>(picBack, std::string("picKaart") + kaart::kPlaatsNaam(plaats),
+          return forms::ControlArray<forms::PictureBox>(picBack, std::string("picKaart") + cards::kPlaatsNaam(plaats),
                                                         {{1, {0, 0, kKaartBreedte, kKaartHoogte}}});
       }),
       picPlay(picBack, "picPlay", {{1, {0, 0, kKaartBreedte, kKaartHoogte}}}),
@@ -45,19 +46,19 @@ frmTavrin02::frmTavrin02(Programma& programma)
               [](int i) {
                   return forms::Rect{kolom(i + 1), 90, 900, 195};
               }),
-      lblSlag(fraSlagen, "lblSlag", 1, kaart::kSlagen,
+      lblSlag(fraSlagen, "lblSlag", 1, cards::kSlagen,
               [](int slag) {
                   return forms::Rect{slag < 10 ? 150.0 : 90.0, kRijTop[slag - 1], 750, 195};
               }),
       picGespeeld([this](int plaats) {
           return forms::ControlArray<forms::PictureBox>(
-              fraSlagen, std::string("pic") + kaart::kPlaatsLetter(plaats), 1, kaart::kSlagen, [plaats](int slag) {
+              fraSlagen, std::string("pic") + cards::kPlaatsLetter(plaats), 1, cards::kSlagen, [plaats](int slag) {
                   return forms::Rect{kolom(plaats), 390.0 + 260 * (slag - 1), kSymbool, kSymbool};
               });
       }),
       lblGespeeld([this](int plaats) {
           return forms::ControlArray<forms::Label>(
-              fraSlagen, std::string("lbl") + kaart::kPlaatsLetter(plaats), 1, kaart::kSlagen, [plaats](int slag) {
+              fraSlagen, std::string("lbl") + cards::kPlaatsLetter(plaats), 1, cards::kSlagen, [plaats](int slag) {
                   return forms::Rect{kolom(plaats) + kWoordNaastSymbool, kRijTop[slag - 1], 900, 255};
               });
       }),
@@ -78,7 +79,10 @@ frmTavrin02::frmTavrin02(Programma& programma)
 
 // What the screen looks like before its load places the rest.
 void frmTavrin02::stel_uiterlijk_in() {
-    picBack.BackColor = kTafelgroen;
+    picBack.BackColor = kleuren::kTafelgroen;
+    picBack.ForeColor = kleuren::kOpTafel;
+    picBack.FontSize = 12;
+    picBack.FontBold = true;
     picBack.Visible = false;
     for (auto& hand : picKaart) {
         hand.each([](forms::PictureBox& kaart) { kaart.Opaque = false; });
@@ -88,15 +92,20 @@ void frmTavrin02::stel_uiterlijk_in() {
         kaart.Opaque = false;
         kaart.BorderStyle = 1;
         kaart.Visible = false;
+        kaart.Spoken = true;
     });
+    txtInformatie.Spoken = true;
     for (forms::Frame* doos : {&bieding.fraBieding, &fraSlagen}) {
-        doos->BackColor = kPapier;
+        doos->BackColor = kleuren::kPapier;
         doos->Visible = false;
     }
+    for (auto& woorden : lblGespeeld)
+        woorden.each([](forms::Label& woord) { woord.FontBold = true; });
     for (auto& symbolen : picGespeeld)
         symbolen.each([](forms::PictureBox& symbool) { symbool.Opaque = false; });
     for (const auto& [plaats, symbool] : picSym) {
-        symbool->Picture = Bas_Aftavrin::LaadPlaatje(kaart::gegevens(static_cast<kaart::Kleur>(plaats - 1)).plaatje);
+        symbool->Picture =
+            services::Bas_Aftavrin::LaadPlaatje(cards::gegevens(static_cast<cards::Kleur>(plaats - 1)).plaatje);
         symbool->Visible = false;
     }
     for (const auto& [slag, opschrift] : lblSlag) {
@@ -105,12 +114,12 @@ void frmTavrin02::stel_uiterlijk_in() {
     }
     lblWind.each([](forms::Label& opschrift) { opschrift.FontBold = true; });
     for (const auto& [i, opschrift] : lblWind)
-        opschrift->Caption = LeesResString(kaart::bericht_van_plaats(i + 1));
+        opschrift->Caption = LeesResString(cards::bericht_van_plaats(i + 1));
 
     const auto op_de_tafel = [](forms::Label& opschrift, double punten) {
         opschrift.FontSize = punten;
         opschrift.AutoSize = true;
-        opschrift.ForeColor = kWit;
+        opschrift.ForeColor = kleuren::kWit;
     };
     op_de_tafel(lblSpel, 18);
     op_de_tafel(lblNummer, 24);
@@ -130,7 +139,7 @@ void frmTavrin02::stel_uiterlijk_in() {
     for (forms::TextBox* doos : {&txtVraag, &txtInformatie, &txtKnipTekst}) {
         doos->MultiLine = true;
         doos->FontSize = 12;
-        doos->BackColor = kPapier;
+        doos->BackColor = kleuren::kPapier;
         doos->Visible = false;
     }
     cmdVerder.Visible = false;
@@ -141,28 +150,32 @@ void frmTavrin02::stel_uiterlijk_in() {
 }
 
 void frmTavrin02::toon_symbool(forms::PictureBox& plek, int plaatje) {
-    plek.Picture = Bas_Aftavrin::LaadPlaatje(plaatje);
+    plek.Picture = services::Bas_Aftavrin::LaadPlaatje(plaatje);
     const resources::Size size = resources::picture_size(plaatje);
     plek.Width = size.width * forms::kTwipsPerPixel;
     plek.Height = size.height * forms::kTwipsPerPixel;
 }
 
 void frmTavrin02::toon_kaart(forms::PictureBox& plek, int kaartcode) {
-    plek.Picture = Bas_Aftavrin::LaadPlaatje(kaartcode);
+    plek.Picture = services::Bas_Aftavrin::LaadPlaatje(kaartcode);
     plek.BorderStyle = 0;
-    plek.AccessibleName = kaart::titel(kaartcode);
+    plek.AccessibleName = cards::titel(kaartcode);
+}
+
+void frmTavrin02::leg_kaart(int plaats, int kaartcode) {
+    toon_kaart(picPlay(plaats), kaartcode);
+    picPlay(plaats).AccessibleName = LeesResString(cards::bericht_van_plaats(plaats)) + ": " + cards::titel(kaartcode);
 }
 
 void frmTavrin02::Form_Load() {
     Foutpad("frmTavrin02 - Form - Load", [&] {
         zet_buiten_beeld(cmdFocus);
         gedeeld.kaartRugId = resources::plaatje::kKaartRug;
-        Kaarten::ZetVariabelenOpNul(gedeeld);
+        cards::Kaarten::ZetVariabelenOpNul(gedeeld);
         Caption = LeesResString(Bericht::ProgrammaNaam);
         WindowState = forms::WindowState::Maximised;
-        const forms::Size screen = windows().host().screen_size();
-        picBack.Move(static_cast<int>(screen.width - picBack.Width) / 2,
-                     static_cast<int>(screen.height - picBack.Height) / 2);
+        const forms::Size screen = windows().host().screen_size(*this);
+        picBack.Move(forms::half(screen.width - picBack.Width), forms::half(screen.height - picBack.Height));
         picBack.Visible = true;
         picBack.BorderStyle = 1;
         Refresh();
@@ -173,8 +186,8 @@ void frmTavrin02::Form_Load() {
         txtInformatie.Text = "";
         txtKnipTekst.Text = "";
         zet_opschriften();
-        for (int p = 2; p <= kaart::kKaartenPerHand; ++p) {
-            for (const int plaats : kaart::kPlaatsen)
+        for (int p = 2; p <= cards::kKaartenPerHand; ++p) {
+            for (const int plaats : cards::kPlaatsen)
                 picKaart(plaats).Load(p);
         }
         cmdTerug.Move(picBack.Left, picBack.bottom() + kTussenruimte);
@@ -194,7 +207,7 @@ void frmTavrin02::Form_Load() {
         gedeeld.oostLinks = 9090;
         gedeeld.oostBoven = 3300;
 
-        Kaarten::LeesInformatie(*this, lstInformatie);
+        cards::Kaarten::LeesInformatie(*this, lstInformatie);
         Kaarten::NoordStartPositie(*this);
         Kaarten::ZuidStartPositie(*this);
         Kaarten::OostStartPositie(*this);
@@ -202,8 +215,8 @@ void frmTavrin02::Form_Load() {
         Kaarten::OverigeStartPositie(*this);
         Kaarten::ZetPositieBieding(*this);
         Kaarten::ToonBieding(*this, bieding);
-        Kaarten::LeesKartenBestandIn(*this, lijsten);
-        Kaarten::VerdeelDeKaarten(*this, lijsten);
+        cards::Kaarten::LeesKartenBestandIn(*this, lijsten);
+        cards::Kaarten::VerdeelDeKaarten(*this, lijsten);
         Kaarten::LeesVraag(*this);
 
         lees_snelheid();
@@ -225,21 +238,22 @@ void frmTavrin02::zet_opschriften() {
 }
 
 void frmTavrin02::zet_gespeelde_kaarten_klaar() {
-    for (int slag = 1; slag <= kaart::kSlagen; ++slag) {
-        for (const int plaats : kaart::kPlaatsen) {
+    for (int slag = 1; slag <= cards::kSlagen; ++slag) {
+        for (const int plaats : cards::kPlaatsen) {
             picGespeeld(plaats)(slag).Visible = false;
             lblGespeeld(plaats)(slag).Visible = false;
-            picGespeeld(plaats)(slag).Top = picGespeeld(kaart::kNoord)(slag).Top;
-            lblGespeeld(plaats)(slag).Top = lblGespeeld(kaart::kNoord)(slag).Top;
+            picGespeeld(plaats)(slag).Top = picGespeeld(cards::kNoord)(slag).Top;
+            lblGespeeld(plaats)(slag).Top = lblGespeeld(cards::kNoord)(slag).Top;
         }
     }
 }
 
 void frmTavrin02::lees_snelheid() {
-    const Zolang laadt(bezigMetLaden, true);
+    const base::Zolang laadt(bezigMetLaden, true);
     gedeeld.speelSnelheid = kGewoneSnelheid;
-    const std::string waarde = Bas_Aftavrin::LeesIni(programma, "Standaard", "Snelheid", programma.instellingen());
-    if (!waarde.empty()) gedeeld.speelSnelheid = numeric_value(waarde);
+    const std::string waarde =
+        services::Bas_Aftavrin::LeesIni(programma, "Standaard", "Snelheid", programma.instellingen());
+    if (!waarde.empty()) gedeeld.speelSnelheid = base::numeric_value(waarde);
     for (int snelheid = kTraagst; snelheid >= kSnelst; snelheid -= 100) {
         if (snelheid == gedeeld.speelSnelheid) vscrSnelHeid.Value = lstSnelheid.ListCount();
         lstSnelheid.AddItem(std::to_string(snelheid));
@@ -263,7 +277,7 @@ void frmTavrin02::Form_Activate() {
 
 void frmTavrin02::verlaat() {
     timSpeelKaart.Enabled = false;
-    Scherm::verlaat();
+    services::Scherm::verlaat();
 }
 
 void frmTavrin02::cmdStart_Click() {
@@ -275,7 +289,7 @@ void frmTavrin02::cmdStart_Click() {
         fraSlagen.Move(bieding.fraBieding.Left, bieding.fraBieding.bottom() + kTussenruimte);
         fraSlagen.Visible = true;
         txtInformatie.Width = txtVraag.Width();
-        txtInformatie.Move(txtVraag.Left, picKaart(kaart::kOost)(kaart::kKaartenPerHand).bottom() + kTussenruimte);
+        txtInformatie.Move(txtVraag.Left, picKaart(cards::kOost)(cards::kKaartenPerHand).bottom() + kTussenruimte);
         Kaarten::PlaatdeUitkomst(*this);
         Kaarten::ToonKaartenDummy(*this);
         Kaarten::ToonKaartenLeider(*this);
@@ -306,7 +320,7 @@ frmTavrin02::Tik frmTavrin02::timSpeelKaart_Timer() {
             if (gedeeld.aanDeBeurt > 4) gedeeld.aanDeBeurt = 1;
             if (gedeeld.kaartenInSlag > 3) nieuwe_slag();
             Kaarten::PlaatsKaart(*this);
-            if (gedeeld.kaartTeller < kaart::kKaarten) {
+            if (gedeeld.kaartTeller < cards::kKaarten) {
                 tik = Tik::Verder;
             } else {
                 spel_is_uit();
@@ -321,24 +335,24 @@ frmTavrin02::Tik frmTavrin02::timSpeelKaart_Timer() {
 
 void frmTavrin02::nieuwe_slag() {
     gedeeld.kaartenInSlag = 0;
-    for (const int plaats : kaart::kPlaatsen) {
+    for (const int plaats : cards::kPlaatsen) {
         picPlay(plaats).Picture = forms::Picture{};
         picPlay(plaats).BorderStyle = 1;
         picPlay(plaats).AccessibleName = "";
     }
     gedeeld.slagRij += 1;
-    gedeeld.delen = split(lijsten.lstAfTavrin.List(gedeeld.slagRij), "|");
+    gedeeld.delen = base::split(lijsten.lstAfTavrin.List(gedeeld.slagRij), "|");
     // Who leads this trick won the one before.
-    const int uitkomer = numeric_value(left(gedeeld.delen[0], 1));
+    const int uitkomer = base::numeric_value(base::left(gedeeld.delen[0], 1));
     forms::Label* teller = nullptr;
-    if (uitkomer == kaart::kNoord || uitkomer == kaart::kZuid) teller = &lblSlagenNZ;
-    if (uitkomer == kaart::kOost || uitkomer == kaart::kWest) teller = &lblSlagenOW;
+    if (uitkomer == cards::kNoord || uitkomer == cards::kZuid) teller = &lblSlagenNZ;
+    if (uitkomer == cards::kOost || uitkomer == cards::kWest) teller = &lblSlagenOW;
     if (teller) {
-        teller->Caption = std::to_string(numeric_value(teller->Caption()) + 1);
+        teller->Caption = std::to_string(base::numeric_value(teller->Caption()) + 1);
         teller->Refresh();
     }
-    if (gedeeld.slagRij >= kaart::kSlagen) {
-        for (const int plaats : kaart::kPlaatsen)
+    if (gedeeld.slagRij >= cards::kSlagen) {
+        for (const int plaats : cards::kPlaatsen)
             picPlay(plaats).Visible = false;
         txtVraag.Text = "";
         txtVraag.Visible = false;
@@ -357,9 +371,9 @@ void frmTavrin02::spel_is_uit() {
     lstAnderKleur.Clear();
     for (int i = 0; i < 4; ++i)
         lstAnderKleur.AddItem(" ");
-    lblSlagenNZ.Caption = std::to_string(numeric_value(lblSlagenNZ.Caption()) + 1);
+    lblSlagenNZ.Caption = std::to_string(base::numeric_value(lblSlagenNZ.Caption()) + 1);
     lblSlagenNZ.Refresh();
-    for (const int plaats : kaart::kPlaatsen) {
+    for (const int plaats : cards::kPlaatsen) {
         picPlay(plaats).Picture = forms::Picture{};
         picPlay(plaats).AccessibleName = "";
     }
@@ -383,8 +397,11 @@ void frmTavrin02::vscrSnelHeid_Change() {
         if (vscrSnelHeid.Value < 0) vscrSnelHeid.Value = laatste;
         if (vscrSnelHeid.Value > laatste) vscrSnelHeid.Value = 0;
         txtSnelHeid.Text = lstSnelheid.List(vscrSnelHeid.Value);
-        Bas_Aftavrin::SchrijfINI(programma, "Standaard", "Snelheid", txtSnelHeid.Text(), programma.instellingen());
-        gedeeld.speelSnelheid = numeric_value(txtSnelHeid.Text());
+        services::Bas_Aftavrin::SchrijfINI(programma, "Standaard", "Snelheid", txtSnelHeid.Text(),
+                                           programma.instellingen());
+        gedeeld.speelSnelheid = base::numeric_value(txtSnelHeid.Text());
         timSpeelKaart.Interval = gedeeld.speelSnelheid;
     });
 }
+
+}  // namespace table

@@ -8,6 +8,8 @@
 #include "services/Scherm.h"
 #include "table/BiedingPaneel.h"
 
+namespace table {
+
 // The table: replays a stored deal on a timer. One deal per life of the screen; leaving it unloads it.
 //
 // What controls remember, beside what they show; the play counters are shared variables:
@@ -22,18 +24,18 @@
 //   lstSnelheid              the speeds that vscrSnelHeid has   lees_snelheid           vscrSnelHeid_Change
 //   lblSlagenNZ, lblSlagenOW the tricks won                     nieuwe_slag, the end    the same
 //   cmdVerder.Visible        a text stops the play              PlaatsInformatie        cmdStart, cmdVerder
-class frmTavrin02 final : public Scherm {
+class frmTavrin02 final : public services::Scherm {
 public:
-    explicit frmTavrin02(Programma& programma);
+    explicit frmTavrin02(services::Programma& programma);
     void Form_Load() override;
     void Form_Activate() override;
 
     // Arrays of one kind, one for each seat. A seat that is none is failure 9: the word of an opening lead may name it.
     template <class T>
-    using PerPlaats = kaart::PerPlaats<forms::ControlArray<T>>;
+    using PerPlaats = cards::PerPlaats<forms::ControlArray<T>>;
 
     forms::PictureBox picBack{*this, "picBack", {0, 0, 19065, 10275}};  // the play surface
-    HandLijsten lijsten{*this};
+    cards::HandLijsten lijsten{*this};
     BiedingPaneel bieding{picBack, {10710, 180, 5325, 3105}, {.eerste = 750, .stap = 1200}};
     PerPlaats<forms::PictureBox>
         picKaart;  // the hands, 1 to 13: picKaartNoord, picKaartOost, picKaartZuid, picKaartWest
@@ -79,7 +81,8 @@ public:
     forms::ListBox lstInformatie{*this, "lstInformatie"};
     forms::ListBox lstKnipTekst{*this, "lstKnipTekst"};
     forms::ListBox lstSnelheid{*this, "lstSnelheid"};
-    kaart::PerKleur<forms::ListBox> lstZuid{sorted_lists_by_suit(*this, "lstZuid")};  // lstZuidSchoppen and so on
+    cards::PerKleur<forms::ListBox> lstZuid{
+        cards::sorted_lists_by_suit(*this, "lstZuid")};  // lstZuidSchoppen and so on
     forms::ListBox lstHelpZuid{*this, "lstHelpZuid"};
     forms::ListBox lstKlaar{*this, "lstKlaar"};
     forms::ListBox lstAnderKleur{*this, "lstAnderKleur", forms::ListBox::Order::Sorted};
@@ -88,6 +91,8 @@ public:
     static void toon_symbool(forms::PictureBox& plek, int plaatje);
     // Puts a card's picture, which also says the card to a screen reader, into a place.
     static void toon_kaart(forms::PictureBox& plek, int kaartcode);
+    // The same at the place of the card that a seat plays.
+    void leg_kaart(int plaats, int kaartcode);
 
 private:
     void verlaat() override;
@@ -108,3 +113,5 @@ private:
 
     bool bezigMetLaden = false;
 };
+
+}  // namespace table

@@ -14,7 +14,9 @@ protected:
     void open() {
         program("start\nclick frmTavrin01.chkSorteer\nselect frmTavrin01.lstSpellen 0\nclick frmTavrin01.cmdTavrin");
     }
-    frmTavrin02& table() { return dynamic_cast<frmTavrin02&>(*program.programma.windows.find("frmTavrin02")); }
+    table::frmTavrin02& table() {
+        return dynamic_cast<table::frmTavrin02&>(*program.programma.windows.find("frmTavrin02"));
+    }
     std::string get(const std::string& name) { return program.get("frmTavrin02." + name); }
 
     Program program;
@@ -22,7 +24,7 @@ protected:
 
 TEST_F(Cards, AreToldByTheirCode) {
     program("start");
-    auto& screen = dynamic_cast<Scherm&>(*program.programma.windows.find("frmTavrin01"));
+    auto& screen = dynamic_cast<services::Scherm&>(*program.programma.windows.find("frmTavrin01"));
     const struct {
         const char* code;
         const char* text;
@@ -42,11 +44,11 @@ TEST_F(Cards, AreToldByTheirCode) {
                  {"99999999999", "k 2147481409"},
                  {"-99999999999", "s -2147483647"}};
     for (const auto& each : cases) {
-        Kaarten::WelkeKaartIsDit(screen, each.code);
+        cards::Kaarten::WelkeKaartIsDit(screen, each.code);
         EXPECT_EQ(program.shared("kaartTekst"), each.text) << each.code;
         EXPECT_EQ(program.shared("kleurLetter") + " " + program.shared("waardeLetter"), each.text);
     }
-    EXPECT_EQ(kaart::titel(2213) + ", " + kaart::titel(2214) + ", " + kaart::titel(2253), "Schoppen Aas, Harten 2, ");
+    EXPECT_EQ(cards::titel(2213) + ", " + cards::titel(2214) + ", " + cards::titel(2253), "Schoppen Aas, Harten 2, ");
 }
 
 TEST_F(Cards, SeatThatIsNoneIsTheFailureOfItsOwner) {
@@ -58,18 +60,18 @@ TEST_F(Cards, SeatThatIsNoneIsTheFailureOfItsOwner) {
         std::function<void(int)> reach;
     } cases[] = {{"hands on the table", 9, [&](int seat) { table().picKaart(seat); }},
                  {"played cards", 9, [&](int seat) { table().picGespeeld(seat); }},
-                 {"values", 9, [](int seat) { kaart::kPlaatsNaam(seat); }},
+                 {"values", 9, [](int seat) { cards::kPlaatsNaam(seat); }},
                  {"cards of a trick", 340, [&](int seat) { table().picPlay(seat); }},
                  {"string lists", 340, [&](int seat) { table().lijsten.lstHand(seat); }},
                  {"bids", 340, [&](int seat) { table().bieding.lblB(seat); }}};
     for (const auto& each : cases) {
-        for (const int seat : kaart::kPlaatsen)
+        for (const int seat : cards::kPlaatsen)
             each.reach(seat);
         for (const int seat : {0, 5, -1}) {
             try {
                 each.reach(seat);
                 ADD_FAILURE() << each.owner << " of seat " << seat;
-            } catch (const Fout& fout) {
+            } catch (const base::Fout& fout) {
                 EXPECT_EQ(fout.nummer(), each.number) << each.owner << " of seat " << seat;
             }
         }
@@ -81,7 +83,7 @@ TEST_F(Cards, AreDealtTwiceIntoTheSuitsByASecondCall) {
     open();
     EXPECT_EQ(get("lstHand(1)[0].Text"), "2214") << "the lowest card of Noord";
     EXPECT_EQ(get("lstSchoppen(4).ListCount"), "13");
-    Kaarten::VerdeelDeKaarten(table(), table().lijsten);
+    cards::Kaarten::VerdeelDeKaarten(table(), table().lijsten);
     EXPECT_EQ(get("lstHand(4).ListCount"), "13");
     EXPECT_EQ(get("lstSchoppen(4).ListCount"), "26");
 }

@@ -30,7 +30,7 @@ TEST_F(WindowsTest, AWindowHasPlaceTitleAndColourOfItsForm) {
     program([&] {
         form.Left = 600;
         form.Top = 450;
-        form.BackColor = Colour::rgb(0, 128, 0);
+        form.BackColor = base::Colour::rgb(0, 128, 0);
     });
     const desktop::FormWindow& window = *host.window(&form);
     EXPECT_EQ(window.windowTitle(), "Spelen & meer");

@@ -25,12 +25,12 @@
 
 namespace fs = std::filesystem;
 
-Answer TestPlatform::message_box(int style, const std::string& title, const std::string& text) {
+platform::Answer TestPlatform::message_box(int style, const std::string& title, const std::string& text) {
     told.push_back(text);
     if (real_boxes) return QtPlatform::message_box(style, title, text);
-    if (style == box_style::kInformation) return Answer::Ok;
-    if (answers.empty()) return Answer::No;
-    const Answer answer = answers.front();
+    if (style == platform::box_style::kInformation) return platform::Answer::Ok;
+    if (answers.empty()) return platform::Answer::No;
+    const platform::Answer answer = answers.front();
     answers.pop_front();
     return answer;
 }
@@ -47,7 +47,7 @@ void RealProgram::start_program() {
     host.attach(programma.windows);
     host.Ended = [this] { ended = true; };
     host.Failed = [](const std::string& what) { ADD_FAILURE() << what; };
-    start(programma);
+    app::start(programma);
 }
 
 QWidget& RealProgram::widget(const forms::Control& control) {
@@ -102,6 +102,34 @@ void RealProgram::type(const QString& text) {
         QTest::sendKeyEvent(QTest::Click, window().windowHandle(), code, enter ? QString("\r") : QString(letter),
                             letter.isUpper() ? Qt::ShiftModifier : Qt::NoModifier);
     }
+}
+
+std::string RealProgram::focused() {
+    for (const forms::Control* control : window().form().controls()) {
+        const desktop::views::View* view = window().view(*control);
+        if (view && &view->widget() == window().focusWidget()) return control->name();
+    }
+    return "nothing";
+}
+
+void RealProgram::tab_to(const forms::Control& control) {
+    for (int i = 0; i < 40 && focused() != control.name(); ++i)
+        key(Qt::Key_Tab);
+    ASSERT_EQ(focused(), control.name());
+}
+
+QRect RealProgram::marked() {
+    QCoreApplication::processEvents();
+    for (const QWidget* child : window().findChildren<QWidget*>()) {
+        if (!dynamic_cast<const desktop::keys::FocusMark*>(child) || !child->isVisible()) continue;
+        return QRect(child->mapTo(&window(), QPoint()), child->size()).adjusted(3, 3, -3, -3);
+    }
+    return {};
+}
+
+QRect RealProgram::place_of(const forms::Control& control) {
+    QWidget& shown_widget = widget(control);
+    return {shown_widget.mapTo(&window(), QPoint()), shown_widget.size()};
 }
 
 void RealProgram::compose(const QString& text) {
@@ -159,5 +187,5 @@ std::string RealProgram::read(const std::string& name) const {
 }
 
 void RealProgram::set(const std::string& section, const std::string& key, const std::string& value) {
-    write_setting(path("standaardtavrin.ini"), section, key, value);
+    platform::write_setting(path("standaardtavrin.ini"), section, key, value);
 }

@@ -30,7 +30,7 @@ class TestPlatform final : public desktop::system::QtPlatform {
 public:
     using QtPlatform::QtPlatform;
 
-    Answer message_box(int style, const std::string& title, const std::string& text) override;
+    platform::Answer message_box(int style, const std::string& title, const std::string& text) override;
     bool connected() override { return online; }
     std::vector<std::string> drives() override {
         return stick.empty() ? std::vector<std::string>{} : std::vector{stick};
@@ -39,8 +39,8 @@ public:
 
     bool real_boxes = false;
     bool online = false;
-    std::string stick;           // a folder that stands for the only drive, if there is one
-    std::deque<Answer> answers;  // to the next questions; without one a question is refused
+    std::string stick;                     // a folder that stands for the only drive, if there is one
+    std::deque<platform::Answer> answers;  // to the next questions; without one a question is refused
     std::vector<std::string> told;
 };
 
@@ -62,7 +62,7 @@ protected:
         return *active;
     }
     desktop::FormWindow& window() { return *host.front(); }
-    const Gedeeld& gedeeld() const { return programma.gedeeld; }
+    const services::Gedeeld& gedeeld() const { return programma.gedeeld; }
 
     QWidget& widget(const forms::Control& control);
     template <class Widget>
@@ -77,6 +77,14 @@ protected:
     // Alt and the letter that is marked in the caption.
     void accelerator(const forms::CommandButton& button);
     void type(const QString& text);
+    // The control that the keyboard is at, or "nothing".
+    std::string focused();
+    // By Tab.
+    void tab_to(const forms::Control& control);
+    // Where the frame is that marks the keyboard's place, without its margin; empty if there is none.
+    QRect marked();
+    // Where a widget is in its window.
+    QRect place_of(const forms::Control& control);
     // Puts a text in as an input method does, for dead keys.
     void compose(const QString& text);
 
@@ -94,8 +102,8 @@ protected:
     QTemporaryDir temporary;
     const std::string folder = temporary.filePath("het programma").toStdString();
     desktop::QtHost host;
-    TestPlatform platform{host, folder};
-    Programma programma{platform, host};
+    TestPlatform platform{host, folder, services::settings_file(folder)};
+    services::Programma programma{platform, host};
     bool ended = false;
 
 private:

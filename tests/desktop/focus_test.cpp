@@ -4,10 +4,13 @@
 #include "annotate/frmTavrin05.h"
 #include "annotate/frmTavrin06.h"
 #include "desktop/RealProgram.h"
-#include "desktop/views/View.h"
 #include "forms/CheckBox.h"
 #include "forms/CommandButton.h"
+#include "forms/FlexGrid.h"
+#include "forms/Frame.h"
+#include "forms/Label.h"
 #include "forms/ListBox.h"
+#include "forms/PictureBox.h"
 #include "forms/TextBox.h"
 #include "forms/VScrollBar.h"
 #include "library/frmTavrin01.h"
@@ -32,20 +35,21 @@ protected:
         std::filesystem::create_directory(path("QVT_Spellen"));
     }
 
-    std::string focused() {
-        for (const forms::Control* control : window().form().controls()) {
-            const desktop::views::View* view = window().view(*control);
-            if (view && &view->widget() == window().focusWidget()) return control->name();
-        }
-        return "nothing";
+    // Cards and markers are used at the frame on which they stand.
+    static bool holds_cards(const forms::Control& control) {
+        const auto* frame = dynamic_cast<const forms::Frame*>(&control);
+        return frame && std::ranges::any_of(frame->children(), [](const forms::Control* child) {
+                   return is_one_of<forms::Label, forms::PictureBox>(*child) && child->Click &&
+                          child->visible_to_user();
+               });
     }
     // What a user can use by keys: what lies within the window and isn't a box that hands the focus on.
     std::vector<std::string> usable(const std::vector<std::string>& read_only) {
         std::vector<std::string> names;
         for (const forms::Control* control : window().form().controls()) {
-            if (!is_one_of<forms::TextBox, forms::CommandButton, forms::CheckBox, forms::ListBox, forms::VScrollBar>(
-                    *control) ||
-                !control->visible_to_user() || !control->enabled_for_user() ||
+            const bool simple = is_one_of<forms::TextBox, forms::CommandButton, forms::CheckBox, forms::ListBox,
+                                          forms::VScrollBar, forms::FlexGrid>(*control);
+            if (!(simple || holds_cards(*control)) || !control->visible_to_user() || !control->enabled_for_user() ||
                 std::ranges::find(read_only, control->name()) != read_only.end()) {
                 continue;
             }
@@ -73,11 +77,6 @@ protected:
             EXPECT_EQ(visited, wanted) << window().form().name();
         }
     }
-    void tab_to(const forms::Control& control) {
-        for (int i = 0; i < 40 && focused() != control.name(); ++i)
-            key(Qt::Key_Tab);
-        ASSERT_EQ(focused(), control.name());
-    }
     void choose_first(const forms::ListBox& list) {
         tab_to(list);
         key(Qt::Key_Down);
@@ -87,24 +86,24 @@ protected:
 
 TEST_F(Focus, TabGoesRoundWhatCanBeUsedOnEveryScreen) {
     start_program();
-    screen<frmTavrin01>();
+    screen<library::frmTavrin01>();
     expect_round();
-    choose_first(screen<frmTavrin01>().lstSpellen);
+    choose_first(screen<library::frmTavrin01>().lstSpellen);
     expect_round();
-    accelerator(screen<frmTavrin01>().cmdHerbeNoem);
-    screen<frmTavrin04>();
-    expect_round();
-    key(Qt::Key_Escape);
-    accelerator(screen<frmTavrin01>().cmdImportExport);
-    screen<frmTavrin07>();
+    accelerator(screen<library::frmTavrin01>().cmdHerbeNoem);
+    screen<library::frmTavrin04>();
     expect_round();
     key(Qt::Key_Escape);
-    accelerator(screen<frmTavrin01>().cmdNieuwSpel);
-    choose_first(screen<frmTavrin03>().lstRVLX);
+    accelerator(screen<library::frmTavrin01>().cmdImportExport);
+    screen<library::frmTavrin07>();
     expect_round();
     key(Qt::Key_Escape);
-    accelerator(screen<frmTavrin01>().cmdKaartenEditor);
-    auto& editor = screen<frmTavrin05>();
+    accelerator(screen<library::frmTavrin01>().cmdNieuwSpel);
+    choose_first(screen<prepare::frmTavrin03>().lstRVLX);
+    expect_round();
+    key(Qt::Key_Escape);
+    accelerator(screen<library::frmTavrin01>().cmdKaartenEditor);
+    auto& editor = screen<annotate::frmTavrin05>();
     choose_first(editor.lstSpellen);
     expect_round();
     tab_to(editor.txtInformatie);
@@ -114,24 +113,24 @@ TEST_F(Focus, TabGoesRoundWhatCanBeUsedOnEveryScreen) {
     expect_round();
     accelerator(editor.cmdSluiten);
     click(editor.cmdToonSpel);
-    screen<frmTavrin06>();
+    screen<annotate::frmTavrin06>();
     expect_round();
     key(Qt::Key_Escape);
     key(Qt::Key_Escape);
-    choose_first(screen<frmTavrin01>().lstSpellen);
+    choose_first(screen<library::frmTavrin01>().lstSpellen);
     std::filesystem::remove(path("aftavrin/QVT_Spel 001/QVT_Spel 001 aftavrin.txt"));
-    accelerator(screen<frmTavrin01>().cmdTavrin);
-    accelerator(screen<frmTavrin02>().cmdStart);
-    screen<frmTavrin08>();
+    accelerator(screen<library::frmTavrin01>().cmdTavrin);
+    accelerator(screen<table::frmTavrin02>().cmdStart);
+    screen<services::frmTavrin08>();
     expect_round();
 }
 
 TEST_F(Focus, TheTableIsPlayedByReturnAndSpace) {
     set("Standaard", "Snelheid", "100");
     start_program();
-    choose_first(screen<frmTavrin01>().lstSpellen);
-    accelerator(screen<frmTavrin01>().cmdTavrin);
-    auto& table = screen<frmTavrin02>();
+    choose_first(screen<library::frmTavrin01>().lstSpellen);
+    accelerator(screen<library::frmTavrin01>().cmdTavrin);
+    auto& table = screen<table::frmTavrin02>();
     const std::vector<std::string> read_only{"txtVraag", "txtInformatie", "txtSnelHeid"};
     expect_round(read_only);
     tab_to(table.cmdStart);
@@ -145,9 +144,6 @@ TEST_F(Focus, TheTableIsPlayedByReturnAndSpace) {
         EXPECT_EQ(focused(), table.cmdVerder.Visible() ? "cmdVerder" : "nothing") << "what a key would press unasked";
     }
     expect_round(read_only);
-    tab_to(table.vscrSnelHeid);
-    key(Qt::Key_Up);
-    EXPECT_EQ(shown(table.txtSnelHeid), "200");
 }
 
 }  // namespace

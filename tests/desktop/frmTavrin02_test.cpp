@@ -10,9 +10,9 @@ class TableScreen : public RealProgram {};
 TEST_F(TableScreen, TheRealTimerPlaysToATextAndNoTickComesBehindEscape) {
     set("Standaard", "Snelheid", "100");
     start_program();
-    click_line(screen<frmTavrin01>().lstSpellen, "QVT_Spel 001");
-    click(screen<frmTavrin01>().cmdTavrin);
-    auto& table = screen<frmTavrin02>();
+    click_line(screen<library::frmTavrin01>().lstSpellen, "QVT_Spel 001");
+    click(screen<library::frmTavrin01>().cmdTavrin);
+    auto& table = screen<table::frmTavrin02>();
     click(table.cmdStart);
     accelerator(table.cmdVerder);
     ASSERT_TRUE(QTest::qWaitFor([&] { return table.cmdVerder.Visible(); }, 20000));
@@ -27,7 +27,7 @@ TEST_F(TableScreen, TheRealTimerPlaysToATextAndNoTickComesBehindEscape) {
     key(Qt::Key_Escape);
     EXPECT_EQ(programma.windows.find("frmTavrin02"), nullptr);
     QTest::qWait(300);  // a tick that came now would find no table
-    screen<frmTavrin01>();
+    screen<library::frmTavrin01>();
     key(Qt::Key_Escape);
     EXPECT_TRUE(ended);
 }

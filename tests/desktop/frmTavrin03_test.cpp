@@ -9,17 +9,17 @@ class PreparationScreen : public RealProgram {
 protected:
     PreparationScreen() {
         start_program();
-        click(screen<frmTavrin01>().cmdNieuwSpel);
-        click_line(screen<frmTavrin03>().lstRVLX, "Spel 001");
+        click(screen<library::frmTavrin01>().cmdNieuwSpel);
+        click_line(screen<prepare::frmTavrin03>().lstRVLX, "Spel 001");
     }
 };
 
 TEST_F(PreparationScreen, CardsArePaintedInTheColourOfTheirState) {
-    auto& preparation = screen<frmTavrin03>();
-    const auto expect_painted = [&](kaart::Kleur suit, int seat, Colour colour) {
+    auto& preparation = screen<prepare::frmTavrin03>();
+    const auto expect_painted = [&](cards::Kleur suit, int seat, base::Colour colour) {
         EXPECT_EQ(painted(preparation.labels.rij(seat, suit)(0)).name(), desktop::colour(colour).name()) << seat;
     };
-    using enum kaart::Kleur;
+    using enum cards::Kleur;
     expect_painted(Ruiten, 4, prepare::kInSlag);  // the ace is the lead
     expect_painted(Ruiten, 1, prepare::kInHand);
     for (const int seat : {1, 2, 3})
@@ -30,7 +30,7 @@ TEST_F(PreparationScreen, CardsArePaintedInTheColourOfTheirState) {
 }
 
 TEST_F(PreparationScreen, AQuestionIsTypedByRealKeys) {
-    forms::TextBox& question = screen<frmTavrin03>().txtVraag;
+    forms::TextBox& question = screen<prepare::frmTavrin03>().txtVraag;
     click(question);
     key(Qt::Key_A, Qt::ControlModifier);
     type(QString::fromUtf8("Één caf"));

@@ -21,7 +21,7 @@ protected:
     // What the user does with the box that asks whether the deal shall go.
     void wipe(const std::string& deal, const std::function<void(QWidget& box)>& act) {
         window().activateWindow();  // as the window manager does when a box goes
-        auto& main = screen<frmTavrin01>();
+        auto& main = screen<library::frmTavrin01>();
         click_line(main.lstSpellen, deal);
         QTimer look;
         look.callOnTimeout([&] {
@@ -56,11 +56,11 @@ class RenameScreen : public RealProgram {
 protected:
     RenameScreen() {
         start_program();
-        click_line(screen<frmTavrin01>().lstSpellen, "QVT_Spel 002");
+        click_line(screen<library::frmTavrin01>().lstSpellen, "QVT_Spel 002");
     }
-    frmTavrin04& open() {
-        click(screen<frmTavrin01>().cmdHerbeNoem);
-        auto& rename = screen<frmTavrin04>();
+    library::frmTavrin04& open() {
+        click(screen<library::frmTavrin01>().cmdHerbeNoem);
+        auto& rename = screen<library::frmTavrin04>();
         EXPECT_TRUE(widget(rename.txtSpelNummer).hasFocus());
         return rename;
     }
@@ -87,7 +87,7 @@ TEST_F(RenameScreen, TheNumberBoxTakesDigitsAndTheDealGetsThem) {
 
 TEST_F(RenameScreen, SentKeysSelectToTheEndInTheRealBox) {
     programma.windows.dispatch([&] {
-        auto& preparation = dynamic_cast<frmTavrin03&>(programma.schermen.laad("frmTavrin03"));
+        auto& preparation = dynamic_cast<prepare::frmTavrin03&>(programma.schermen.laad("frmTavrin03"));
         preparation.lstRVLX.ListIndex = preparation.lstRVLX.find("Spel 006", forms::Match::Exact);
     });
     auto& rename = open();
@@ -108,7 +108,7 @@ TEST_F(RenameScreen, SentKeysSelectToTheEndInTheRealBox) {
         key(Qt::Key_Home);
         for (int i = 0; i < row.home_and_right; ++i)
             key(Qt::Key_Right);
-        programma.windows.dispatch([&] { MSendInput::VerstuurToetsen(programma, row.sent, false); });
+        programma.windows.dispatch([&] { services::MSendInput::VerstuurToetsen(programma, row.sent, false); });
         EXPECT_EQ(box.selectedText(), row.selected) << row.sent;
         EXPECT_EQ(rename.txtSpelNummer.SelStart(), row.start) << row.sent;
         EXPECT_EQ(rename.txtSpelNummer.SelLength(), static_cast<int>(std::string(row.selected).size())) << row.sent;

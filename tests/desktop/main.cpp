@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "desktop/Accessible.h"
 #include "desktop/Style.h"
 
 int main(int argc, char** argv) {
@@ -9,6 +10,7 @@ int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     QApplication application(argc, argv);
     QApplication::setStyle(new desktop::Style);
+    desktop::describe_widgets();
     QApplication::setPalette(desktop::Style::colours());
     QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();

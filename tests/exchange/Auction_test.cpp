@@ -10,7 +10,7 @@ using namespace exchange;
 
 Auction auction_of(char dealer, const std::string& calls) {
     Auction auction{*seat_of(dealer), {}};
-    for (const std::string& call : split(calls, " "))
+    for (const std::string& call : base::split(calls, " "))
         auction.calls.push_back(*call_of(call));
     return auction;
 }
@@ -55,6 +55,23 @@ INSTANTIATE_TEST_SUITE_P(
         Bidding{"RedoubleWithoutDouble", 'N', "1H P P XX", "1HXXN", false, "call 4 (XX): nothing to redouble"},
         Bidding{"CallBehindTheEnd", 'N', "1H P P P P", "1HN", true, "call 5 (P): the auction is over"}),
     [](const auto& info) { return info.param.name; });
+
+TEST(Auction, MayEndInWhatItCanGoOnTo) {
+    for (const auto& [calls, contract, may] : {std::tuple{"1H P", "S4H", true},
+                                               {"1H P", "N4H", false},
+                                               {"1H P", "N4S", true},
+                                               {"1H P", "W4H", true},
+                                               {"1H P", "S1H", true},
+                                               {"1H P 1S", "S1S", false},
+                                               {"1H P 1S", "S1H", false},
+                                               {"1H X", "S1H", true},
+                                               {"P", "W1C", true},
+                                               {"P P P P", "W1C", false},
+                                               {"1H P P P", "S2H", false}}) {
+        const Contract end = *contract_of(contract + 1, *seat_of(contract[0]));
+        EXPECT_EQ(auction_of('S', calls).may_end_in(end), may) << calls << " " << contract;
+    }
+}
 
 TEST(Call, IsReadInEverySpelling) {
     for (const auto& [text, call] : {std::pair{"pass", "P"},

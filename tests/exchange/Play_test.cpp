@@ -10,7 +10,7 @@ using namespace exchange;
 
 std::vector<Card> cards_of(const std::string& text) {
     std::vector<Card> cards;
-    for (const std::string& card : split(text, " "))
+    for (const std::string& card : base::split(text, " "))
         cards.push_back(*card_of(card));
     return cards;
 }

@@ -36,7 +36,7 @@ inline std::string told(const exchange::Board& board) {
     for (const exchange::PlacedText& placed : board.texts) {
         text += placed.place.kind == Kind::Question ? " Q" : placed.place.kind == Kind::Answer ? " A" : " C";
         if (placed.place.card > 0) text += std::to_string(placed.place.card);
-        text += "=" + replaced(placed.text, "\n", "/");
+        text += "=" + base::replaced(placed.text, "\n", "/");
     }
     for (const exchange::Remark& note : board.notes)
         text += " (" + note.text + ")";

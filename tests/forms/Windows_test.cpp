@@ -184,8 +184,8 @@ TEST(ListBox, ClickIsRaisedByAChangeAndAlwaysByTheUser) {
     list.Clear();
     expect(0);
     EXPECT_EQ(list.ListIndex(), -1);
-    EXPECT_THROW(list.ListIndex = 0, Fout);
-    EXPECT_THROW(list.List(0), Fout);
+    EXPECT_THROW(list.ListIndex = 0, base::Fout);
+    EXPECT_THROW(list.List(0), base::Fout);
 }
 
 TEST(ListBox, SortedListKeepsTextOrder) {
@@ -263,8 +263,8 @@ TEST(Values, RaiseTheirEventOnAChangeAndRefuseWhatIsOutside) {
     user::scroll(form.scroll, -99);
     EXPECT_EQ(form.scroll.Value(), -1);
     EXPECT_EQ(events, 4);
-    EXPECT_THROW(form.scroll.Value = 4, Fout);
-    EXPECT_THROW(form.check.Value = 2, Fout);
+    EXPECT_THROW(form.scroll.Value = 4, base::Fout);
+    EXPECT_THROW(form.check.Value = 2, base::Fout);
 }
 
 TEST(ControlArray, LoadMakesAHiddenCopyInFrontAndAnUnknownNumberFails) {
@@ -284,7 +284,7 @@ TEST(ControlArray, LoadMakesAHiddenCopyInFrontAndAnUnknownNumberFails) {
     try {
         labels(3);
         FAIL();
-    } catch (const Fout& fout) {
+    } catch (const base::Fout& fout) {
         EXPECT_EQ(fout.nummer(), 340);
     }
 }

@@ -73,18 +73,18 @@ void write_deal(const fs::path& folder, const std::string& name, std::initialize
     }
 }
 
-Run::Run(const fs::path& folder) : interpreter_(std::make_unique<script::ScriptHost>(path_text(folder))) {
-    interpreter_.platform.special_folders[kProgramFiles] = path_text(folder);
-    interpreter_.platform.special_folders[kProgramFilesX86] = "";
+Run::Run(const fs::path& folder) : interpreter_(std::make_unique<script::ScriptHost>(platform::path_text(folder))) {
+    interpreter_.platform.special_folders[platform::kProgramFiles] = platform::path_text(folder);
+    interpreter_.platform.special_folders[platform::kProgramFilesX86] = "";
 }
 
 void Run::operator()(std::initializer_list<std::string> commands) {
     for (const std::string& command : commands) {
-        interpreter_.platform.answers.assign(1, Answer::Yes);
+        interpreter_.platform.answers.assign(1, platform::Answer::Yes);
         const std::string answer = interpreter_.run(command);
         require(!answer.starts_with("error"), command + ": " + answer);
-        const Gedeeld& gedeeld = interpreter_.programma.gedeeld;
-        require(gedeeld.foutNummer != static_cast<int>(FoutNummer::Internal),
+        const services::Gedeeld& gedeeld = interpreter_.programma.gedeeld;
+        require(gedeeld.foutNummer != static_cast<int>(base::FoutNummer::Internal),
                 command + ": " + gedeeld.foutPlaats + ": " + gedeeld.foutNaam);
     }
 }

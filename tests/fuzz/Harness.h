@@ -38,7 +38,7 @@ class Run {
 public:
     explicit Run(const std::filesystem::path& folder);
 
-    Programma& programma() { return interpreter_.programma; }
+    services::Programma& programma() { return interpreter_.programma; }
     script::ScriptPlatform& platform() { return interpreter_.platform; }
 
     // Carries out commands of the script host. A wrong command is a fault of the target; a failure that no routine has

@@ -9,9 +9,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::ofstream(folder / "test.txt", std::ios::binary) << fuzz::text_of(data, size);
     fuzz::Run run(folder);
     run({"start"});
-    auto& screen = dynamic_cast<frmTavrin03&>(run.programma().schermen.laad("frmTavrin03"));
+    auto& screen = dynamic_cast<prepare::frmTavrin03&>(run.programma().schermen.laad("frmTavrin03"));
     run.programma().windows.dispatch([&] { screen.cmdOphalen.Click(); });
-    fuzz::require(run.programma().gedeeld.foutNummer != static_cast<int>(FoutNummer::Internal),
+    fuzz::require(run.programma().gedeeld.foutNummer != static_cast<int>(base::FoutNummer::Internal),
                   run.programma().gedeeld.foutNaam);
     return 0;
 }

@@ -24,9 +24,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (has_long_number(text)) return 0;
     fuzz::Run run("/nowhere");
     run.platform().caps_lock_on = size % 2 == 1;
-    MSendInput::VerstuurToetsen(run.programma(), std::string(text), false);
+    services::MSendInput::VerstuurToetsen(run.programma(), std::string(text), false);
     std::map<std::pair<int, int>, int> down;
-    for (const KeyRecord& record : run.platform().keys) {
+    for (const platform::KeyRecord& record : run.platform().keys) {
         const int scan = record.virtual_key == 0 ? record.scan_code : 0;
         down[{record.virtual_key, scan}] += (record.flags & 2U) != 0 ? -1 : 1;
     }

@@ -9,13 +9,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const auto folder = fuzz::fresh_program_folder();
     fuzz::Run run(folder);
     run({"start"});
-    Programma& programma = run.programma();
-    const int number = numeric_value(input);
+    services::Programma& programma = run.programma();
+    const int number = base::numeric_value(input);
     programma.windows.dispatch([&] {
-        const std::string text = Bas_Aftavrin::LeesResString(programma, number);
-        fuzz::require(text.empty() == (programma.gedeeld.foutNummer == static_cast<int>(FoutNummer::NoSuchResource)),
-                      "a number has a text, or is reported");
-        meld_fout(programma, std::string(input), number, std::string(input));
+        const std::string text = services::Bas_Aftavrin::LeesResString(programma, number);
+        fuzz::require(
+            text.empty() == (programma.gedeeld.foutNummer == static_cast<int>(base::FoutNummer::NoSuchResource)),
+            "a number has a text, or is reported");
+        services::meld_fout(programma, std::string(input), number, std::string(input));
     });
     run({"wait 5000"});
     return 0;

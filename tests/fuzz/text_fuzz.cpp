@@ -6,8 +6,8 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string text(fuzz::text_of(data, size));
-    fuzz::require(from_utf8(to_utf8(text)) == text, "the code page comes back");
-    from_utf8(text);
+    fuzz::require(platform::from_utf8(platform::to_utf8(text)) == text, "the code page comes back");
+    platform::from_utf8(text);
     constexpr double kBoxWidth = 5325;  // twips
     constexpr double kPoints = 12;
     const auto lines = forms::box_lines(text, kBoxWidth, kPoints);

@@ -11,7 +11,8 @@ const std::string kOld = "QVT_Spel 012";
 // Stands for the preparation screen, with the lines chosen on it that a test wants.
 class Preparation final : public forms::Form {
 public:
-    Preparation(Programma& programma, const std::vector<std::string>& deals, const std::vector<std::string>& packages)
+    Preparation(services::Programma& programma, const std::vector<std::string>& deals,
+                const std::vector<std::string>& packages)
         : Form(programma.windows, "frmTavrin03", {100, 100}) {
         fill(lstRVLX, deals);
         fill(lstAfTavrin, packages);
@@ -38,7 +39,7 @@ protected:
     // Opens the screen for the deal of that line of the main screen.
     void open(int line = 0) {
         program("start");
-        program.programma.schermen.registreer("frmTavrin03", [this](Programma& programma) {
+        program.programma.schermen.registreer("frmTavrin03", [this](services::Programma& programma) {
             return std::make_unique<Preparation>(programma, deals, packages);
         });
         program("select frmTavrin01.lstSpellen " + std::to_string(line));
@@ -132,7 +133,7 @@ TEST_F(Rename, ANameThatIsTakenIsRefused) {
         EXPECT_EQ(program("keys"), "16 0 0\n35 0 1\n35 79 3\n16 0 2\n.");
         EXPECT_EQ(program.get("frmTavrin04.ActiveControl"), "txtSpelNummer");
         EXPECT_EQ(program.tree("aftavrin"), before);
-        std::filesystem::remove(program.path(other));
+        std::filesystem::remove_all(program.path(other));
     }
     EXPECT_EQ(program.shared("foutNummer"), "0");
 }

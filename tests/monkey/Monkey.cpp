@@ -63,9 +63,9 @@ void Monkey::restore_samples() {
 void Monkey::start() {
     interpreter_.reset();
     interpreter_ = std::make_unique<script::Interpreter>(make_(folder_));
-    interpreter_->platform.special_folders[kProgramFiles] = path_text(folder_);
-    interpreter_->platform.special_folders[kProgramFilesX86] = "";
-    interpreter_->platform.drive_list = {{path_text(folder_ / "stick"), 2, "MONKEY"}};
+    interpreter_->platform.special_folders[platform::kProgramFiles] = platform::path_text(folder_);
+    interpreter_->platform.special_folders[platform::kProgramFilesX86] = "";
+    interpreter_->platform.drive_list = {{platform::path_text(folder_ / "stick"), 2, "MONKEY"}};
     last_report_ = 0;
     ++starts_;
     interpreter_->run("start");
@@ -87,17 +87,18 @@ std::string Monkey::run(const std::string& command) {
     static constexpr std::array kErrors{EIO, ENOSPC, EACCES, ENOENT, EMFILE};
     const int error = one_of(kErrors);
     int left = below(40);
-    const system_calls::HookScope failing([&](system_calls::Call, const char*) { return left-- == 0 ? error : 0; });
+    const platform::system_calls::HookScope failing(
+        [&](platform::system_calls::Call, const char*) { return left-- == 0 ? error : 0; });
     return interpreter_->run(command);
 }
 
 std::string Monkey::problem_of(const std::string& command, const std::string& answer) {
     // What lies behind another control is out of a mouse's reach.
     if (answer.starts_with("error") && !answer.starts_with("error: covered")) return command + ": " + answer;
-    const Gedeeld& gedeeld = interpreter_->programma.gedeeld;
+    const services::Gedeeld& gedeeld = interpreter_->programma.gedeeld;
     if (gedeeld.foutNummer != 0 && gedeeld.foutNummer != last_report_) ++reports_;
     last_report_ = gedeeld.foutNummer;
-    if (gedeeld.foutNummer == static_cast<int>(FoutNummer::Internal)) {
+    if (gedeeld.foutNummer == static_cast<int>(base::FoutNummer::Internal)) {
         return command + ": " + gedeeld.foutPlaats + ": " + gedeeld.foutNaam;
     }
     return {};
@@ -107,14 +108,14 @@ void Monkey::prepare_platform() {
     auto& platform = interpreter_->platform;
     platform.answers.clear();
     for (int i = 0; i < 4; ++i)
-        platform.answers.push_back(one_in(2) ? Answer::Yes : Answer::No);
+        platform.answers.push_back(one_in(2) ? platform::Answer::Yes : platform::Answer::No);
     platform.boxes.clear();
     platform.opened.clear();
     platform.keys.clear();
     if (one_in(200)) platform.online = !platform.online;
     if (one_in(200)) {
         platform.drive_list.clear();
-        if (one_in(2)) platform.drive_list.push_back({path_text(folder_ / "stick"), 2, "MONKEY"});
+        if (one_in(2)) platform.drive_list.push_back({platform::path_text(folder_ / "stick"), 2, "MONKEY"});
     }
 }
 

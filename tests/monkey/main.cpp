@@ -5,6 +5,7 @@
 #include "monkey/Monkey.h"
 #include "platform/Paths.h"
 #include "support/Program.h"
+#include "support/System.h"
 
 // zandolin_monkey [ACTIONS [SEED]]: random actions on the host that the program is linked with; exit status 1 at the
 // first fault, with the commands that led to it.
@@ -15,7 +16,8 @@ int main(int argc, char** argv) {
     const std::filesystem::path folder = new_temporary_folder();
     int status = EXIT_SUCCESS;
     {
-        Monkey monkey(folder, SAMPLES_DIR, seed, [](const auto& program) { return make_stage(path_text(program)); });
+        Monkey monkey(folder, SAMPLES_DIR, seed,
+                      [](const auto& program) { return make_stage(platform::path_text(program)); });
         for (long action = 0; action < actions && status == EXIT_SUCCESS; ++action) {
             const std::string problem = monkey.act();
             if (problem.empty()) continue;

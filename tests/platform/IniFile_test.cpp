@@ -1,8 +1,6 @@
 // The settings file, and the folders that it may name.
 #include "platform/IniFile.h"
 
-#include <stdlib.h>
-
 #include "platform/SpecialFolders.h"
 #include "platform/SystemCalls.h"
 #include "support/TemporaryFolder.h"
@@ -11,9 +9,9 @@ namespace {
 
 class Ini : public TemporaryFolder {
 protected:
-    std::string read(const char* section, const char* key) { return read_setting(in("s.ini"), section, key); }
+    std::string read(const char* section, const char* key) { return platform::read_setting(in("s.ini"), section, key); }
     void write(const char* section, const char* key, const char* value) {
-        write_setting(in("s.ini"), section, key, value);
+        platform::write_setting(in("s.ini"), section, key, value);
     }
 };
 
@@ -56,22 +54,28 @@ TEST_F(Ini, WritesOneLineAndKeepsTheOthers) {
     }
 }
 
+TEST_F(Ini, LosesTheLinesOfOneKeyAlone) {
+    put("s.ini", "; mijn\nServer=0\n[platform]\nserver = 1\nServerNaam=2\n\nSERVER=3\n[Standaard]\nServer=4\n");
+    platform::remove_setting(in("s.ini"), "Platform", "Server");
+    EXPECT_EQ(bytes_of("s.ini"), "; mijn\r\nServer=0\r\n[platform]\r\nServerNaam=2\r\n\r\n[Standaard]\r\nServer=4\r\n");
+}
+
 TEST_F(Ini, IsMadeByTheFirstWriteAndKeepsItsSpelling) {
     put("S.INI", "[Standaard]\r\nLaatsteRVLX=\xC9\xE9n\r\n");
     write("Standaard", "Snelheid", "100");
     EXPECT_EQ(names(), std::vector<std::string>{"S.INI"});
     EXPECT_EQ(read("Standaard", "LaatsteRVLX"), "\xC9\xE9n");
-    write_setting(in("nieuw.ini"), "Standaard", "Snelheid", "1");
+    platform::write_setting(in("nieuw.ini"), "Standaard", "Snelheid", "1");
     EXPECT_EQ(bytes_of("nieuw.ini"), "[Standaard]\r\nSnelheid=1\r\n");
-    EXPECT_EQ(failure_of([&] { write_setting(in("geen/s.ini"), "a", "b", "c"); }), 76);
+    EXPECT_EQ(failure_of([&] { platform::write_setting(in("geen/s.ini"), "a", "b", "c"); }), 76);
 }
 
 TEST_F(Ini, ThatCannotBeReadHasNoSettingsAndKeepsThem) {
     const std::string before = "[Standaard]\r\nSnelheid=5\r\n";
     put("s.ini", before);
-    using system_calls::Call;
+    using platform::system_calls::Call;
     for (const Call call : {Call::Status, Call::Open, Call::Read}) {
-        const system_calls::HookScope bad([&](Call made, const char*) { return made == call ? EIO : 0; });
+        const platform::system_calls::HookScope bad([&](Call made, const char*) { return made == call ? EIO : 0; });
         EXPECT_EQ(read("Standaard", "Snelheid"), "");
         EXPECT_EQ(failure_of([&] { write("Standaard", "Snelheid", "6"); }), 57);
     }
@@ -79,16 +83,11 @@ TEST_F(Ini, ThatCannotBeReadHasNoSettingsAndKeepsThem) {
 }
 
 TEST_F(Ini, NamesTheFoldersOfTheCompanion) {
-    const std::string program = folder.string();
-    const std::string home = std::string(getenv("HOME") ? getenv("HOME") : "");
-    setenv("HOME", "/thuis", 1);
-    EXPECT_EQ(special_folder_of(program, 38), "/thuis/.wine/drive_c/Program Files");
-    EXPECT_EQ(special_folder_of(program, 42), "/thuis/.wine/drive_c/Program Files (x86)");
-    put("standaardtavrin.ini", "[Platform]\r\nProgramFiles=/elders\r\nProgramFilesX86=hier\r\n");
-    EXPECT_EQ(special_folder_of(program, 38), "/elders");
-    EXPECT_EQ(special_folder_of(program, 42), in("hier"));
-    EXPECT_EQ(special_folder_of(program, 7), "");
-    setenv("HOME", home.c_str(), 1);
+    put("s.ini", "[Platform]\r\nProgramFiles=" + in("elders") + "\r\nProgramFilesX86=hier/daar\r\n");
+    EXPECT_EQ(platform::special_folder_of(in("s.ini"), 38), in("elders"));
+    EXPECT_EQ(platform::special_folder_of(in("s.ini"), 42), in("hier/daar"));
+    EXPECT_EQ(platform::special_folder_of(in("s.ini"), 7), "");
+    EXPECT_EQ(platform::special_folder_of(in("geen.ini"), 38), platform::special_folder_without_key(38));
 }
 
 }  // namespace

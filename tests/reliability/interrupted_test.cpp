@@ -102,12 +102,12 @@ protected:
     }
 
     // Runs the action in a process of its own, with the hook; its exit status.
-    int run(const system_calls::Hook& hook) {
+    int run(const platform::system_calls::Hook& hook) {
         const pid_t child = fork();
         if (child == 0) {
-            const system_calls::HookScope scope(hook);
+            const platform::system_calls::HookScope scope(hook);
             program(GetParam().action);
-            const bool internal = program.programma.gedeeld.foutNummer == static_cast<int>(FoutNummer::Internal);
+            const bool internal = program.programma.gedeeld.foutNummer == static_cast<int>(base::FoutNummer::Internal);
             _exit(internal || testing::Test::HasFailure() ? kBroken : 0);
         }
         int status = 0;
@@ -162,7 +162,7 @@ TEST_P(Interrupted, ByAKillOrAFailureLeavesTheOldOrTheNew) {
             calls = 0;
             int* const shared = &calls;
             const fs::path mark = program.path().string() + ".reached";
-            const int status = run([=](system_calls::Call, const char*) {
+            const int status = run([=](platform::system_calls::Call, const char*) {
                 if (++*shared != at) return 0;
                 if (error == 0) _exit(kKilled);
                 std::ofstream(mark).put('x');

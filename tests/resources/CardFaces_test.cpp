@@ -8,11 +8,13 @@
 #include <vector>
 
 #include "Raster.h"
-#include "resources/CourtCards.h"
 #include "resources/PictureTable.h"
-#include "resources/SuitShapes.h"
+#include "resources/drawing/SuitShapes.h"
+#include "resources/faces/CourtCards.h"
 
 using namespace resources;
+using namespace resources::drawing;
+using namespace resources::faces;
 
 namespace {
 
@@ -32,7 +34,7 @@ constexpr std::string_view kSuitLetters = "SHRK";
 int rank_of(int card) { return (card - 1) % 13 + 2; }
 bool is_court(int card) { return rank_of(card) >= 11 && rank_of(card) <= 13; }
 bool is_red(int card) { return card > 13 && card <= 39; }
-Colour colour_of(int card) { return is_red(card) ? Colour::rgb(255, 0, 0) : Colour{0}; }
+base::Colour colour_of(int card) { return is_red(card) ? base::Colour::rgb(255, 0, 0) : base::Colour{0}; }
 
 bool in_index(const Patch& patch, const SizeRow& size) {
     return patch.left < size.index_right * kScale && patch.top < size.index_bottom * kScale;
@@ -56,7 +58,7 @@ std::vector<bool> row_of(const Raster& raster, const Patch& patch, double share)
     const int y = patch.top + static_cast<int>((patch.bottom - patch.top) * share + 0.5);
     std::vector<bool> inked;
     for (int x = patch.left; x <= patch.right; ++x)
-        inked.push_back(raster.at(x, y) == Colour{0} || raster.at(x, y) == Colour::rgb(255, 0, 0));
+        inked.push_back(raster.at(x, y) == base::Colour{0} || raster.at(x, y) == base::Colour::rgb(255, 0, 0));
     return inked;
 }
 
@@ -182,7 +184,7 @@ TEST(CardFaces, IndexHasTheShapeOfItsLetterAndSuit) {
     }
     for (const int number : {106, 107, 108, 109}) {
         const Raster raster(draw_picture(number), 8);
-        const Colour colour = number == 107 || number == 108 ? Colour::rgb(255, 0, 0) : Colour{0};
+        const base::Colour colour = number == 107 || number == 108 ? base::Colour::rgb(255, 0, 0) : base::Colour{0};
         EXPECT_EQ(suit_of(raster, patches(raster, colour).at(0)), kSuitLetters[109 - number]) << number;
     }
 }

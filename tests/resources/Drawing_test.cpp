@@ -1,18 +1,19 @@
-#include "resources/Drawing.h"
+#include "resources/drawing/Drawing.h"
 
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 
 #include "Raster.h"
-#include "resources/Glyphs.h"
-#include "resources/Pen.h"
+#include "resources/drawing/Glyphs.h"
+#include "resources/drawing/Pen.h"
 
 using namespace resources;
+using namespace resources::drawing;
 
 namespace {
 
-constexpr Colour kBlack{0};
+constexpr base::Colour kBlack{0};
 
 int dots(const Drawing& drawing) {
     const Raster raster(drawing, 4);

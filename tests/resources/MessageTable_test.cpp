@@ -47,7 +47,7 @@ TEST(MessageTable, UnknownNumberFails) {
     try {
         message_text(10070);
         FAIL();
-    } catch (const Fout& fout) {
+    } catch (const base::Fout& fout) {
         EXPECT_EQ(fout.nummer(), 326);
     }
 }

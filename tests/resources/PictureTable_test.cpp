@@ -11,6 +11,7 @@
 #include "resources/Icon.h"
 
 using namespace resources;
+using namespace resources::drawing;
 
 namespace {
 
@@ -29,14 +30,14 @@ template <typename Action>
 int failure_of(Action action) {
     try {
         action();
-    } catch (const Fout& fout) {
+    } catch (const base::Fout& fout) {
         return fout.nummer();
     }
     return 0;
 }
 
-std::set<Colour> colours(const Drawing& drawing) {
-    std::set<Colour> found;
+std::set<base::Colour> colours(const Drawing& drawing) {
+    std::set<base::Colour> found;
     for (const Shape& shape : drawing.shapes) {
         if (shape.stroke) found.insert(shape.stroke->colour);
     }
@@ -67,8 +68,8 @@ TEST(PictureTable, HoldsHundredAndTenPicturesInFourSizes) {
 }
 
 TEST(PictureTable, SuitSymbolsFillTheirBoxInTheirColour) {
-    const std::map<int, Colour> kColours{
-        {106, {0}}, {107, Colour::rgb(255, 0, 0)}, {108, Colour::rgb(255, 0, 0)}, {109, {0}}};
+    const std::map<int, base::Colour> kColours{
+        {106, {0}}, {107, base::Colour::rgb(255, 0, 0)}, {108, base::Colour::rgb(255, 0, 0)}, {109, {0}}};
     for (const auto& [number, colour] : kColours) {
         const std::vector<Patch> found = patches(Raster(draw_picture(number), 8), colour);
         ASSERT_EQ(found.size(), 1U) << number;
@@ -108,7 +109,7 @@ TEST(ScreenPictures, BlinkChangesTheEyesAlone) {
 }
 
 TEST(ScreenPictures, MarkersDifferInShapeAndColour) {
-    EXPECT_TRUE(colours(draw_named_picture("ja")).contains(Colour::rgb(28, 132, 62))) << "green tells of a text";
+    EXPECT_TRUE(colours(draw_named_picture("ja")).contains(base::Colour::rgb(28, 132, 62))) << "green tells of a text";
     const char* kMarkers[] = {"ja", "nee", "bezig"};
     for (const char* one : kMarkers) {
         for (const char* other : kMarkers) {
@@ -121,7 +122,7 @@ TEST(ScreenPictures, MarkersDifferInShapeAndColour) {
                     differing += first.at(x, y).has_value() != second.at(x, y).has_value();
             }
             EXPECT_GT(differing, 90) << one << " " << other << ": a tenth of the box";
-            for (const Colour colour : colours(draw_named_picture(one))) {
+            for (const base::Colour colour : colours(draw_named_picture(one))) {
                 EXPECT_FALSE(colours(draw_named_picture(other)).contains(colour)) << one << " " << other;
             }
         }
@@ -135,5 +136,5 @@ TEST(Icon, EverySizeOfTheGroup) {
         expect_inside_its_box(draw_icon(size), std::to_string(size));
     }
     EXPECT_EQ(failure_of([] { draw_icon(64); }), 326);
-    EXPECT_EQ(icon_palette_colour(Colour::rgb(25, 26, 255)), Colour::rgb(0, 51, 255));
+    EXPECT_EQ(icon_palette_colour(base::Colour::rgb(25, 26, 255)), base::Colour::rgb(0, 51, 255));
 }

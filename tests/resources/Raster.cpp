@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <cmath>
 
-using resources::Bounds;
-using resources::FillRule;
-using resources::length;
-using resources::Point;
-using resources::Polyline;
-using resources::Shape;
+using resources::drawing::Bounds;
+using resources::drawing::FillRule;
+using resources::drawing::length;
+using resources::drawing::Point;
+using resources::drawing::Polyline;
+using resources::drawing::Shape;
 
 namespace {
 
@@ -25,7 +25,7 @@ double distance(Point a, Point b, Point point) {
 
 }  // namespace
 
-Raster::Raster(const resources::Drawing& drawing, double scale)
+Raster::Raster(const resources::drawing::Drawing& drawing, double scale)
     : width_(static_cast<int>(std::lround(drawing.width * scale))),
       height_(static_cast<int>(std::lround(drawing.height * scale))),
       dots_(static_cast<std::size_t>(width_ * height_)) {
@@ -46,7 +46,7 @@ void Raster::paint(const Shape& shape, double scale) {
     }
 }
 
-void Raster::fill(const std::vector<Polyline>& lines, FillRule rule, Colour colour, double scale) {
+void Raster::fill(const std::vector<Polyline>& lines, FillRule rule, base::Colour colour, double scale) {
     for (int y = 0; y < height_; ++y) {
         const double level = middle(0, y, scale).y;
         std::vector<std::pair<double, int>> crossings;
@@ -70,7 +70,7 @@ void Raster::fill(const std::vector<Polyline>& lines, FillRule rule, Colour colo
     }
 }
 
-void Raster::stroke(Point from, Point to, double reach, Colour colour, double scale) {
+void Raster::stroke(Point from, Point to, double reach, base::Colour colour, double scale) {
     Bounds bounds;
     bounds.add(from);
     bounds.add(to);
@@ -91,7 +91,7 @@ int differing_dots(const Raster& one, const Raster& other) {
     return found;
 }
 
-std::vector<Patch> patches(const Raster& raster, Colour colour) {
+std::vector<Patch> patches(const Raster& raster, base::Colour colour) {
     std::vector<Patch> found;
     std::vector<bool> seen(static_cast<std::size_t>(raster.width() * raster.height()));
     std::vector<std::pair<int, int>> open;

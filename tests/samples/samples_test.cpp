@@ -306,7 +306,7 @@ TEST(Samples, CommentsFillTheirRecordsAndFitTheBox) {
             const std::size_t length = fields[1].find_last_not_of(' ') + 1;
             comments += length > 0;
             EXPECT_LE(length, 260U);
-            EXPECT_LE(forms::box_lines(replaced(fields[1].substr(0, length), "~", "\r\n"), box_width, 12).size(),
+            EXPECT_LE(forms::box_lines(base::replaced(fields[1].substr(0, length), "~", "\r\n"), box_width, 12).size(),
                       box_lines);
         }
         EXPECT_GE(comments, 8);

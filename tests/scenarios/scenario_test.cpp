@@ -2,7 +2,8 @@
 // command before them must answer. A command without such lines may answer anything but an error or a refusal.
 // `@is NAME = VALUE` asks for a property, or a shared variable where the name has no dot. `@samples` puts the sample
 // deals into the program folder, `@companion` an empty companion, `@write PATH|TEXT` a file, `@gone PATH`,
-// `@there PATH` and `@holds PATH|TEXT` ask about one. $P stands for the program folder.
+// `@there PATH` and `@holds PATH|TEXT` ask about one. $P stands for the program folder, $/ for the
+// separator of paths. What stands behind `@posix ` or `@windows ` is a line on that system only.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -14,6 +15,7 @@
 #include "platform/Paths.h"
 #include "script/Names.h"
 #include "support/Program.h"
+#include "support/System.h"
 
 namespace {
 
@@ -25,6 +27,19 @@ struct Step {
     std::vector<std::string> expected;
 };
 
+constexpr std::string_view kSystems[] = {"posix", "windows"};
+
+// Takes the name of a system off the line.
+bool of_another_system(std::string& line) {
+    for (const std::string_view system : kSystems) {
+        const std::string mark = "@" + std::string(system) + " ";
+        if (!line.starts_with(mark)) continue;
+        line.erase(0, mark.size());
+        return system != kSystem;
+    }
+    return false;
+}
+
 std::vector<Step> read_steps(const fs::path& file) {
     std::vector<Step> steps;
     std::ifstream lines(file);
@@ -32,6 +47,7 @@ std::vector<Step> read_steps(const fs::path& file) {
     for (std::string line; std::getline(lines, line);) {
         ++number;
         if (line.empty() || line.starts_with('#')) continue;
+        if (of_another_system(line)) continue;
         if (line.starts_with("  ")) {
             steps.back().expected.push_back(line.substr(2));
         } else {
@@ -46,19 +62,19 @@ public:
     explicit Scenario(fs::path file) : file_(std::move(file)) {}
 
     void TestBody() override {
-        const std::string folder = to_utf8(path_text(program_.path()));
         for (const Step& step : read_steps(file_)) {
             SCOPED_TRACE(file_.filename().string() + ":" + std::to_string(step.line));
-            const std::string command = replaced(step.command, "$P", folder);
+            const std::string command = filled(step.command);
             if (command.starts_with("@is ")) {
                 const std::size_t equals = command.find(" = ");
                 const std::string name = command.substr(4, equals - 4);
                 const bool shared = name.find('.') == std::string::npos;
-                EXPECT_EQ(shared ? program_.shared(name) : program_.get(name), command.substr(equals + 3)) << name;
+                const std::string value = escaped(step.command.substr(equals + 3));
+                EXPECT_EQ(shared ? program_.shared(name) : program_.get(name), value) << name;
             } else if (command.starts_with('@')) {
                 directive(command);
             } else {
-                check(step, command, folder);
+                check(step, command);
             }
         }
     }
@@ -86,15 +102,27 @@ private:
         }
     }
 
-    void check(const Step& step, const std::string& command, const std::string& folder) {
-        const std::string answer = replaced(program_.interpreter.run(command), folder, "$P");
+    // A text of the file with what its host puts for the marks.
+    static std::string filled(const std::string& text, const std::string& folder, const std::string& separator) {
+        return base::replaced(base::replaced(text, "$P", folder), "$/", separator);
+    }
+    std::string filled(const std::string& text) const {
+        return filled(text, platform::to_utf8(platform::path_text(program_.path())), {platform::kPathSeparator});
+    }
+    // The same as an answer has it.
+    std::string escaped(const std::string& text) const {
+        return filled(text, script::escaped(filled("$P")), script::escaped(filled("$/")));
+    }
+
+    void check(const Step& step, const std::string& command) {
+        const std::string answer = program_.interpreter.run(command);
         if (step.expected.empty()) {
             EXPECT_FALSE(answer.starts_with("error") || answer.starts_with("refused")) << command << ": " << answer;
             return;
         }
         std::string expected;
         for (const std::string& line : step.expected)
-            expected += (expected.empty() ? "" : "\n") + line;
+            expected += (expected.empty() ? "" : "\n") + escaped(line);
         EXPECT_EQ(answer, expected) << command;
     }
 

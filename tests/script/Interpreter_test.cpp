@@ -1,7 +1,9 @@
 // The script host: what each command answers, what is refused, and what is wrong.
 #include <gtest/gtest.h>
 
+#include "script/Names.h"
 #include "support/Program.h"
+#include "support/System.h"
 
 namespace {
 
@@ -89,7 +91,7 @@ TEST_F(Script, TellsThePlatformWhatIsThere) {
             {"start", "ok"},
             {"get frmTavrin01.cmdFocus.Left", "= 15010"},
             {"key frmTavrin01 f1", "ok"},
-            {"opened", folder + "/help.chm\t\t\n."},
+            {"opened", script::escaped(native(folder + "/help.chm")) + "\t\t\n."},
             {"opened", "."},
             {"keys", "."}});
     EXPECT_TRUE(platform.online);

@@ -6,11 +6,12 @@
 #include "platform/SpecialFolders.h"
 #include "services/Bas_Aftavrin.h"
 #include "support/Program.h"
+#include "support/System.h"
 #include "support/TestForm.h"
 
 namespace {
 
-using namespace Bas_Aftavrin;
+using namespace services::Bas_Aftavrin;
 
 class Services : public testing::Test {
 protected:
@@ -18,7 +19,7 @@ protected:
     std::string path(const char* name) { return program.path(name).string(); }
 
     Program program;
-    Programma& programma = program.programma;
+    services::Programma& programma = program.programma;
 };
 
 TEST_F(Services, MessageNumbersAreCompletedByTheirLength) {
@@ -55,10 +56,10 @@ TEST_F(Services, PathIsMadeFolderByFolder) {
     for (const char* name : {"a/b/c", "a/b/c/", "A/B", "file/x"}) {
         std::string made = path(name);
         MaakPad(made);
-        EXPECT_TRUE(made.ends_with('/') && !made.ends_with("//")) << made;
+        EXPECT_TRUE(made.ends_with(native("/")) && !made.ends_with(native("//"))) << made;
     }
     EXPECT_TRUE(program.exists("a/b/c"));
-    EXPECT_FALSE(program.exists("A"));
+    EXPECT_EQ(program.exists("A"), kSystemIgnoresCase);
     EXPECT_EQ(program.shared("foutPlaats"), "");
 }
 
@@ -77,8 +78,8 @@ TEST_F(Services, ServerAndFoldersComeFromTheSettings) {
     EXPECT_EQ(Server(programma), "www.zandolin.example");
     program.write("standaardtavrin.ini", "[Platform]\r\nServer=localhost:81\r\nProgramFilesX86=pf86\r\n");
     EXPECT_EQ(Server(programma), "localhost:81");
-    program.interpreter.platform.special_folders.erase(kProgramFilesX86);
-    EXPECT_EQ(GetSpecialfolder(programma, kProgramFilesX86), path("pf86"));
+    program.interpreter.platform.special_folders.erase(platform::kProgramFilesX86);
+    EXPECT_EQ(GetSpecialfolder(programma, platform::kProgramFilesX86), path("pf86"));
     EXPECT_EQ(ZoekRVLX(programma), "");
     program.write("pf86/rvlx/Rvlx.EXE", "x");
     EXPECT_EQ(ZoekRVLX(programma), path("pf86"));

@@ -9,9 +9,9 @@
 namespace {
 
 // "+10" is key 0x10 going down, "-10" the same key going up; "x" an extended key, "u" a Unicode character.
-std::string shorthand(const std::vector<KeyRecord>& records) {
+std::string shorthand(const std::vector<platform::KeyRecord>& records) {
     std::string text;
-    for (const KeyRecord& record : records) {
+    for (const platform::KeyRecord& record : records) {
         const bool unicode = (record.flags & 4U) != 0;
         char code[16];
         std::snprintf(code, sizeof code, "%02X", unicode ? record.scan_code : record.virtual_key);
@@ -21,10 +21,10 @@ std::string shorthand(const std::vector<KeyRecord>& records) {
     return text;
 }
 
-std::vector<KeyRecord> sent_for(const std::string& text, bool caps_lock = false) {
+std::vector<platform::KeyRecord> sent_for(const std::string& text, bool caps_lock = false) {
     Program program;
     program.interpreter.platform.caps_lock_on = caps_lock;
-    MSendInput::VerstuurToetsen(program.programma, text, false);
+    services::MSendInput::VerstuurToetsen(program.programma, text, false);
     return program.interpreter.platform.keys;
 }
 
@@ -91,10 +91,10 @@ TEST(MSendInput, CapsLockTurnsShiftOfLettersAround) {
 }
 
 TEST(MSendInput, OnlyTheKeyThatGoesUpHasItsScanCode) {
-    const std::vector<KeyRecord> end = sent_for("{END}");
+    const std::vector<platform::KeyRecord> end = sent_for("{END}");
     ASSERT_EQ(end.size(), 2U);
-    EXPECT_EQ(end[0], (KeyRecord{.type = 1, .virtual_key = 0x23, .scan_code = 0, .flags = 1}));
-    EXPECT_EQ(end[1], (KeyRecord{.type = 1, .virtual_key = 0x23, .scan_code = 0x4F, .flags = 3}));
+    EXPECT_EQ(end[0], (platform::KeyRecord{.type = 1, .virtual_key = 0x23, .scan_code = 0, .flags = 1}));
+    EXPECT_EQ(end[1], (platform::KeyRecord{.type = 1, .virtual_key = 0x23, .scan_code = 0x4F, .flags = 3}));
 
     const struct {
         const char* text;

@@ -11,7 +11,7 @@ class Report : public testing::Test {
 protected:
     // A failure like any other: the message of a number that isn't there.
     void fail() {
-        program.programma.windows.dispatch([&] { Bas_Aftavrin::LeesResString(program.programma, 0); });
+        program.programma.windows.dispatch([&] { services::Bas_Aftavrin::LeesResString(program.programma, 0); });
     }
     // A deal whose table reports a contract of two words.
     void open_damaged_deal() {
@@ -31,7 +31,8 @@ const char* const kDamaged = "Kaarten - General - OverigeStartPositie";
 
 TEST_F(Report, IsAsWideAsItsTextButNeverAsTheScreen) {
     program("screen 15000 9000\nstart");
-    program.programma.windows.dispatch([&] { meld_fout(program.programma, "plaats", 1, std::string(400, 'x')); });
+    program.programma.windows.dispatch(
+        [&] { services::meld_fout(program.programma, "plaats", 1, std::string(400, 'x')); });
     EXPECT_LE(std::stod(get("Left")) + std::stod(get("Width")), 15000);
     EXPECT_GT(std::stod(get("Width")), std::stod(get("cmdInterNet.Left")) + std::stod(get("cmdInterNet.Width")));
     EXPECT_NE(program("clipboard").find(std::string(400, 'x')), std::string::npos);
@@ -67,7 +68,7 @@ TEST_F(Report, OffersTheWebPageOnlyWithAConnection) {
     online.write("served", "x");
     online("online on\nserve http://www.zandolin.example/tavrin/actueleversie.txt " + online.path("served").string() +
            "\nstart");
-    online.programma.windows.dispatch([&] { Bas_Aftavrin::LeesResString(online.programma, 0); });
+    online.programma.windows.dispatch([&] { services::Bas_Aftavrin::LeesResString(online.programma, 0); });
     EXPECT_EQ(online.get("frmTavrin08.lblWatWaar(5).Caption"), "");
     EXPECT_TRUE(online.get("frmTavrin08.lblWatWaar(3).Caption").starts_with("Wilt u de foutmelding"));
     online.interpreter.platform.clipboard = "iets anders";
@@ -105,7 +106,7 @@ TEST_F(Report, LeavingItEndsTheProgram) {
     for (const auto& each : cases) {
         Program one;
         one("start");
-        one.programma.windows.dispatch([&] { Bas_Aftavrin::LeesResString(one.programma, 0); });
+        one.programma.windows.dispatch([&] { services::Bas_Aftavrin::LeesResString(one.programma, 0); });
         one(each.way);
         EXPECT_EQ(one("screens"), each.screens) << each.way;
         EXPECT_EQ(one("boxes"), each.boxes) << each.way;

@@ -1,31 +1,24 @@
 #include "support/Program.h"
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <fstream>
 #include <sstream>
 
-#include "platform/CodePage.h"
+#include "base/Text.h"
 #include "platform/Paths.h"
 #include "platform/SpecialFolders.h"
+#include "support/System.h"
 
 namespace fs = std::filesystem;
 
-fs::path new_temporary_folder() {
-    // In memory where that can be: the program flushes what it writes, and a disk takes its time for that.
-    const fs::path memory = "/dev/shm";
-    const bool in_memory = access(memory.c_str(), W_OK) == 0;
-    std::string name = ((in_memory ? memory : fs::temp_directory_path()) / "zandolin-XXXXXX").string();
-    return mkdtemp(name.data());
-}
-
 Program::Program()
-    : folder_(new_temporary_folder()), interpreter(make_stage(path_text(folder_))), programma(interpreter.programma) {
-    interpreter.platform.special_folders[kProgramFiles] = "";
-    interpreter.platform.special_folders[kProgramFilesX86] = "";
+    : folder_(new_temporary_folder()),
+      interpreter(make_stage(platform::path_text(folder_))),
+      programma(interpreter.programma) {
+    interpreter.platform.special_folders[platform::kProgramFiles] = "";
+    interpreter.platform.special_folders[platform::kProgramFilesX86] = "";
 }
 
 Program::~Program() {
@@ -54,7 +47,7 @@ std::string Program::shared(const std::string& name) {
 }
 
 void Program::install_companion() {
-    interpreter.platform.special_folders[kProgramFiles] = path_text(folder_);
+    interpreter.platform.special_folders[platform::kProgramFiles] = platform::path_text(folder_);
     write("RVLX/RVLX.exe", "x");
     fs::create_directories(path("RVLX/Spellen"));
 }
@@ -79,7 +72,8 @@ bool Program::exists(const std::string& name) const { return fs::exists(fs::syml
 std::vector<std::string> Program::tree(const std::string& name) const {
     std::vector<std::string> entries;
     for (const auto& entry : fs::recursive_directory_iterator(path(name))) {
-        const std::string relative = entry.path().lexically_relative(folder_).string();
+        const std::string relative = base::replaced(platform::bytes_of(entry.path().lexically_relative(folder_)),
+                                                    std::string(1, platform::kPathSeparator), "/");
         entries.push_back(entry.is_directory() ? relative + "/" : relative + " = " + read(relative));
     }
     std::ranges::sort(entries);

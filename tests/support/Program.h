@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/Paths.h"
 #include "script/Interpreter.h"
 
 // What carries the programs of a test executable: each links one of the two hosts.
@@ -45,7 +46,9 @@ public:
     void write(const std::string& path, const std::string& bytes);
     std::string read(const std::string& path) const;
     bool exists(const std::string& path) const;
-    std::filesystem::path path(const std::string& path = {}) const { return path.empty() ? folder_ : folder_ / path; }
+    std::filesystem::path path(const std::string& path = {}) const {
+        return path.empty() ? folder_ : (folder_ / platform::path_of(path)).make_preferred();
+    }
     // All files and folders below a folder, sorted, with the contents of the files.
     std::vector<std::string> tree(const std::string& path) const;
 
@@ -54,11 +57,8 @@ private:
 
 public:
     script::Interpreter interpreter;
-    Programma& programma;
+    services::Programma& programma;
 };
-
-// A folder in the system's temporary folder, new and empty.
-std::filesystem::path new_temporary_folder();
 
 // A package whose play is legal, by its suit lengths and leader: a simple one for tests that need any package.
 struct Package {

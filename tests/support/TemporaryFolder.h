@@ -11,7 +11,8 @@
 #include <vector>
 
 #include "base/Fout.h"
-#include "support/Program.h"
+#include "platform/Paths.h"
+#include "support/System.h"
 
 // A test with a folder of its own.
 class TemporaryFolder : public testing::Test {
@@ -20,20 +21,25 @@ protected:
         std::error_code ignored;
         std::filesystem::remove_all(folder, ignored);
     }
-    std::string in(const std::string& name) const { return (folder / name).string(); }
+    // A path in the folder, as the program has paths; `name` has "/" for the separator.
+    std::string in(const std::string& name) const {
+        return native(platform::join_path(platform::path_text(folder), name));
+    }
+    // Names of files are as platform::path_of takes them, with "/" for the separator.
     void put(const std::string& name, const std::string& bytes) const {
-        std::filesystem::create_directories((folder / name).parent_path());
-        std::ofstream(folder / name, std::ios::binary) << bytes;
+        const std::filesystem::path file = folder / platform::path_of(name);
+        std::filesystem::create_directories(file.parent_path());
+        std::ofstream(file, std::ios::binary) << bytes;
     }
     std::string bytes_of(const std::string& name) const {
-        std::ifstream file(folder / name, std::ios::binary);
+        std::ifstream file(folder / platform::path_of(name), std::ios::binary);
         return {std::istreambuf_iterator<char>(file), {}};
     }
     // Names in the folder, sorted.
     std::vector<std::string> names(const std::string& sub = {}) const {
         std::vector<std::string> all;
-        for (const auto& entry : std::filesystem::directory_iterator(folder / sub)) {
-            all.push_back(entry.path().filename().string());
+        for (const auto& entry : std::filesystem::directory_iterator(folder / platform::path_of(sub))) {
+            all.push_back(platform::bytes_of(entry.path().filename()));
         }
         std::sort(all.begin(), all.end());
         return all;
@@ -46,7 +52,7 @@ protected:
 inline int failure_of(const std::function<void()>& action) {
     try {
         action();
-    } catch (const Fout& fout) {
+    } catch (const base::Fout& fout) {
         return fout.nummer();
     }
     return 0;

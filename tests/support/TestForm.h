@@ -52,7 +52,7 @@ private:
 // Windows without a host behind them.
 struct TestWindows {
     struct Host final : forms::Host {
-        forms::Size screen_size() const override { return {15000, 12000}; }
+        forms::Size screen_size(const forms::Form&) const override { return {15000, 12000}; }
     } host;
     struct Folders final : forms::FolderReader {
         std::vector<std::string> subfolders(const std::string&) override { return {}; }

@@ -5,10 +5,15 @@
 #include <QStorageInfo>
 #include <algorithm>
 #include <array>
+#include <filesystem>
+#include <sstream>
 #include <utility>
 
+#include "base/Text.h"
 #include "desktop/Text.h"
+#include "platform/IniFile.h"
 #include "platform/Paths.h"
+#include "platform/SpecialFolders.h"
 
 namespace desktop::system {
 
@@ -27,7 +32,15 @@ constexpr std::array kFileSystems{
 };
 
 QStorageInfo volume(const std::string& root) {
-    return QStorageInfo(QString::fromStdString(find_case_blind(root).string()));
+    return QStorageInfo(QString::fromStdString(platform::find_case_blind(root).string()));
+}
+
+bool is_folder(const std::string& path) {
+    try {
+        return std::filesystem::is_directory(platform::find_case_blind(path));
+    } catch (const std::exception&) {  // What can't be looked at is no stick that is ready.
+        return false;
+    }
 }
 
 bool says_one(const QString& file) {
@@ -45,10 +58,11 @@ bool holds_the_system(const QStorageInfo& info) {
 std::vector<std::string> mounted_volumes() {
     std::vector<std::string> roots;
     for (const QStorageInfo& info : QStorageInfo::mountedVolumes()) {
-        if (info.isValid() && info.isReady()) roots.push_back(path_text(info.rootPath().toStdString()));
+        if (info.isValid() && info.isReady()) roots.push_back(platform::path_text(info.rootPath().toStdString()));
     }
     std::ranges::sort(roots);
-    roots.erase(std::ranges::unique(roots).begin(), roots.end());
+    const auto doubles = std::ranges::unique(roots);
+    roots.erase(doubles.begin(), doubles.end());
     return roots;
 }
 
@@ -73,6 +87,23 @@ DriveType type_of_volume(const std::string& root) {
     return disk_is_removable(QString::fromUtf8(info.device()), kBlocks) ? DriveType::Removable : DriveType::Fixed;
 }
 
-std::string label_of_volume(const std::string& root) { return from_qt(volume(root).name()); }
+std::string label_of_volume(const std::string& root) {
+    const QStorageInfo info = volume(root);
+    return platform::path_text(info.rootPath().toStdString()) == root ? from_qt(info.name()) : std::string();
+}
+
+std::vector<std::string> named_sticks(const std::string& settings_file) {
+    std::vector<std::string> sticks;
+    std::istringstream names(platform::read_setting(settings_file, "Platform", "Drives"));
+    for (std::string name; std::getline(names, name, ';');) {
+        name = base::trimmed(name);
+        while (name.size() > 1 && name.ends_with('/'))
+            name.pop_back();
+        if (name.empty()) continue;
+        const std::string folder = platform::folder_of_setting(settings_file, name);
+        if (is_folder(folder) && std::ranges::find(sticks, folder) == sticks.end()) sticks.push_back(folder);
+    }
+    return sticks;
+}
 
 }  // namespace desktop::system

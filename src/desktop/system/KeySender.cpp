@@ -39,10 +39,10 @@ QString text_of(int key, Qt::KeyboardModifiers held) {
 
 }  // namespace
 
-void send_keys(QWidget& receiver, const std::vector<KeyRecord>& records) {
+void send_keys(QWidget& receiver, const std::vector<platform::KeyRecord>& records) {
     const QPointer<QWidget> alive(&receiver);
     Qt::KeyboardModifiers held;
-    for (const KeyRecord& record : records) {
+    for (const platform::KeyRecord& record : records) {
         if (!alive) return;
         const bool up = record.flags & kKeyUp;
         const bool unicode = record.flags & kUnicode;

@@ -9,6 +9,6 @@ class QWidget;
 namespace desktop::system {
 
 // Hands the transitions of keys to the widget as if they came from the keyboard.
-void send_keys(QWidget& receiver, const std::vector<KeyRecord>& records);
+void send_keys(QWidget& receiver, const std::vector<platform::KeyRecord>& records);
 
 }  // namespace desktop::system

@@ -70,13 +70,13 @@ bool leads_outside() {
 bool Network::connected() { return interface_is_up() && leads_outside(); }
 
 bool Network::download(const std::string& url, const std::string& path) {
-    return download(url, path, equal_ignoring_case(right(path, 4), ".exe") ? kInstaller : kProbe);
+    return download(url, path, base::equal_ignoring_case(base::right(path, 4), ".exe") ? kInstaller : kProbe);
 }
 
 bool Network::download(const std::string& url, const std::string& path, const Limits& limits) {
     const QUrl address(to_qt(url));
     if (address.scheme() != "http" && address.scheme() != "https") return false;
-    QFile file(QString::fromStdString(find_case_blind(path).string()));
+    QFile file(QString::fromStdString(platform::find_case_blind(path).string()));
     if (!file.open(QIODevice::WriteOnly)) return false;
 
     if (!manager_) manager_ = std::make_unique<QNetworkAccessManager>();

@@ -10,6 +10,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QUrl>
+#include <algorithm>
 
 #include "base/Fout.h"
 #include "desktop/FormWindow.h"
@@ -17,6 +18,7 @@
 #include "desktop/Text.h"
 #include "desktop/Words.h"
 #include "desktop/system/Drives.h"
+#include "desktop/system/HelpViewer.h"
 #include "desktop/system/KeySender.h"
 #include "platform/Paths.h"
 #include "platform/SpecialFolders.h"
@@ -28,8 +30,8 @@ namespace {
 // File names on disk may hold what Windows-1252 cannot; the look-up gives their real bytes back.
 QString real_path(const std::string& path) {
     try {
-        return QString::fromStdString(find_case_blind(path).string());
-    } catch (const Fout&) {  // What can't be looked up can't be opened either, and that is all.
+        return QString::fromStdString(platform::find_case_blind(path).string());
+    } catch (const base::Fout&) {  // What can't be looked up can't be opened either, and that is all.
         return to_qt(path);
     }
 }
@@ -55,12 +57,10 @@ bool is_program(const QFileInfo& file) {
 
 }  // namespace
 
-QtPlatform::QtPlatform(QtHost& host, const std::string& program_folder)
-    : host_(host),
-      program_folder_(program_folder.empty() ? path_text(QCoreApplication::applicationDirPath().toStdString())
-                                             : program_folder) {}
+QtPlatform::QtPlatform(QtHost& host, std::string program_folder, std::string settings_file)
+    : host_(host), program_folder_(std::move(program_folder)), settings_file_(std::move(settings_file)) {}
 
-std::string QtPlatform::special_folder(int number) const { return special_folder_of(program_folder_, number); }
+std::string QtPlatform::special_folder(int number) const { return platform::special_folder_of(settings_file_, number); }
 
 bool QtPlatform::another_instance_runs() {
     if (lock_ && lock_->isLocked()) return false;
@@ -71,11 +71,11 @@ bool QtPlatform::another_instance_runs() {
     return !lock_->tryLock(0) && lock_->error() == QLockFile::LockFailedError;
 }
 
-Answer QtPlatform::message_box(int style, const std::string& title, const std::string& text) {
+platform::Answer QtPlatform::message_box(int style, const std::string& title, const std::string& text) {
     host_.flush();
-    const bool asks = style == box_style::kQuestion || style == box_style::kInformationYesNo;
-    QMessageBox box(style == box_style::kQuestion ? QMessageBox::Question : QMessageBox::Information, to_qt(title),
-                    to_qt(text), QMessageBox::NoButton, host_.front());
+    const bool asks = style == platform::box_style::kQuestion || style == platform::box_style::kInformationYesNo;
+    QMessageBox box(style == platform::box_style::kQuestion ? QMessageBox::Question : QMessageBox::Information,
+                    to_qt(title), to_qt(text), QMessageBox::NoButton, host_.front());
     box.setTextFormat(Qt::PlainText);
     const QAbstractButton* yes = nullptr;
     if (asks) {
@@ -85,8 +85,8 @@ Answer QtPlatform::message_box(int style, const std::string& title, const std::s
         box.addButton(words::kOk, QMessageBox::AcceptRole);
     }
     box.exec();
-    if (!asks) return Answer::Ok;
-    return box.clickedButton() == yes ? Answer::Yes : Answer::No;
+    if (!asks) return platform::Answer::Ok;
+    return box.clickedButton() == yes ? platform::Answer::Yes : platform::Answer::No;
 }
 
 void QtPlatform::set_clipboard(const std::string& text) {
@@ -111,33 +111,33 @@ void QtPlatform::open(const std::string& file, const std::string& parameters, co
     }
 }
 
-// The opener ends with a failure where the desktop has no program for such a file; Qt would not wait for that.
 void QtPlatform::show_help(const std::string& file) {
     const QString path = QFileInfo(real_path(file)).absoluteFilePath();
-    auto* opener = new QProcess(qApp);
-    const auto failed = [this, opener, path] {
-        opener->deleteLater();
-        tell_no_help(path);
-    };
-    QObject::connect(opener, &QProcess::errorOccurred, opener, [failed](QProcess::ProcessError error) {
-        if (error == QProcess::FailedToStart) failed();
-    });
-    QObject::connect(opener, &QProcess::finished, opener, [failed, opener](int code) {
-        if (code == EXIT_SUCCESS) return opener->deleteLater();
-        failed();
-    });
-    opener->start(QStringLiteral("xdg-open"), {path});
+    show_manual(path, [this, path] { tell_no_help(path); });
 }
 
 void QtPlatform::tell_no_help(const QString& file) {
-    message_box(box_style::kInformation, from_qt(words::kProgram), from_qt(QString(words::kNoHelpViewer).arg(file)));
+    message_box(platform::box_style::kInformation, from_qt(words::kProgram),
+                from_qt(QString(words::kNoHelpViewer).arg(file)));
 }
 
-std::vector<std::string> QtPlatform::drives() { return mounted_volumes(); }
-int QtPlatform::drive_type(const std::string& root) { return static_cast<int>(type_of_volume(root)); }
+std::vector<std::string> QtPlatform::drives() {
+    std::vector<std::string> roots = named_sticks(settings_file_);
+    for (const std::string& root : mounted_volumes()) {
+        if (std::ranges::find(roots, root) == roots.end()) roots.push_back(root);
+    }
+    return roots;
+}
+
+int QtPlatform::drive_type(const std::string& root) {
+    const std::vector<std::string> sticks = named_sticks(settings_file_);
+    const bool named = std::ranges::find(sticks, root) != sticks.end();
+    return static_cast<int>(named ? DriveType::Removable : type_of_volume(root));
+}
+
 std::string QtPlatform::volume_label(const std::string& root) { return label_of_volume(root); }
 
-void QtPlatform::send_keys(const std::vector<KeyRecord>& records) {
+void QtPlatform::send_keys(const std::vector<platform::KeyRecord>& records) {
     host_.flush();
     FormWindow* window = host_.front();
     QWidget* receiver = window ? window->focusWidget() : QApplication::focusWidget();

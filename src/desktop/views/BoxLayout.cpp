@@ -6,6 +6,8 @@
 #include <QTextDocument>
 #include <QTextLayout>
 #include <algorithm>
+#include <cmath>
+#include <string>
 
 #include "desktop/Text.h"
 #include "forms/Geometry.h"
@@ -13,9 +15,23 @@
 
 namespace desktop::views {
 
+namespace {
+
+// To a pixel, as fine as Qt keeps distances: a line of a hundred letters is less than a pixel off.
+constexpr double kSteps = 64;
+
+// Of a word, or of the blanks between two.
+std::size_t end_of_word(std::string_view text, std::size_t start) {
+    const std::size_t end = text[start] == ' ' ? text.find_first_not_of(' ', start) : text.find(' ', start);
+    return std::min(end, text.size());
+}
+
+}  // namespace
+
 void BoxLayout::set_measures(const Measures& measures) {
     if (measures == measures_) return;
     measures_ = measures;
+    spares_.clear();
     formats_.clear();
     laid_.clear();
     documentChanged(0, 0, document()->characterCount());
@@ -50,12 +66,16 @@ void BoxLayout::documentChanged(int, int, int) {
 
 double BoxLayout::lay_out(const QTextBlock& block) const {
     const std::string text = from_qt(block.text());
-    QList<QTextLayout::FormatRange> formats;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        formats.push_back({static_cast<int>(at), 1, format_of(text[at])});
-    }
     std::vector<std::size_t> starts = forms::box_lines(text, measures_.box_width, measures_.points);
     starts.push_back(text.size());
+    QList<QTextLayout::FormatRange> formats;
+    for (std::size_t line = 0; line + 1 < starts.size(); ++line) {
+        for (std::size_t at = starts[line], end = at; at < starts[line + 1]; at = end) {
+            end = std::min(end_of_word(text, at), starts[line + 1]);
+            formats.push_back({static_cast<int>(at), static_cast<int>(end - at),
+                               format_of(std::string_view(text).substr(at, end - at))});
+        }
+    }
 
     QTextLayout& layout = *block.layout();
     QTextOption option;
@@ -63,7 +83,7 @@ double BoxLayout::lay_out(const QTextBlock& block) const {
     layout.setTextOption(option);
     layout.setFont(measures_.font);
     layout.setFormats(formats);
-    layout.setCacheEnabled(true);  // its letters are shaped one by one, so once must do
+    layout.setCacheEnabled(true);  // its words are shaped one by one, so once must do
     layout.beginLayout();
     const double blank = forms::character_width(' ', {measures_.points, false}) * measures_.zoom;
     double height = 0;
@@ -89,15 +109,26 @@ double BoxLayout::lay_out(const QTextBlock& block) const {
     return height;
 }
 
-const QTextCharFormat& BoxLayout::format_of(char character) const {
-    if (const auto known = formats_.find(character); known != formats_.end()) return known->second;
-    const double wanted = forms::character_width(character, {measures_.points, false}) * measures_.zoom;
-    const double own = QFontMetricsF(measures_.font).horizontalAdvance(to_qt(std::string(1, character)));
+const QTextCharFormat& BoxLayout::format_of(std::string_view word) const {
+    double spare = 0;
+    for (const char character : word)
+        spare += spare_of(character);
+    long distance = std::lround(spare / static_cast<double>(word.size()) * kSteps);
+    if (distance == 0) distance = 1;  // without any, Qt makes one letter of "ffi", and the line gets two too many
+    if (const auto known = formats_.find(distance); known != formats_.end()) return known->second;
     QFont font = measures_.font;
-    font.setLetterSpacing(QFont::AbsoluteSpacing, wanted - own);
-    QTextCharFormat& format = formats_[character];
+    font.setKerning(false);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, static_cast<double>(distance) / kSteps);
+    QTextCharFormat& format = formats_[distance];
     format.setFont(font);
     return format;
+}
+
+double BoxLayout::spare_of(char character) const {
+    if (const auto known = spares_.find(character); known != spares_.end()) return known->second;
+    const double wanted = forms::character_width(character, {measures_.points, false}) * measures_.zoom;
+    const double own = QFontMetricsF(measures_.font).horizontalAdvance(to_qt(std::string(1, character)));
+    return spares_[character] = wanted - own;
 }
 
 void BoxLayout::draw(QPainter* painter, const PaintContext& context) {

@@ -4,14 +4,15 @@
 #include <QFont>
 #include <QTextFormat>
 #include <map>
+#include <string_view>
 #include <vector>
 
 #include "forms/Label.h"
 
 namespace desktop::views {
 
-// Lays out the text of a box in exactly the lines in which the core breaks it, whatever font the machine has: each
-// character takes the room that the core counts for it.
+// Lays out the text of a box in exactly the lines in which the core breaks it, whatever font the machine has: each word
+// takes the room that the core counts for it.
 class BoxLayout final : public QAbstractTextDocumentLayout {
 public:
     struct Measures {
@@ -50,10 +51,14 @@ private:
     double text_width() const;
     // The height of the block.
     double lay_out(const QTextBlock& block) const;
-    const QTextCharFormat& format_of(char character) const;
+    // Letters so far apart, or together, that the word gets its room.
+    const QTextCharFormat& format_of(std::string_view word) const;
+    // How much more room the core counts for the character than it takes, logical pixels.
+    double spare_of(char character) const;
 
     Measures measures_;
-    mutable std::map<char, QTextCharFormat> formats_;  // of the characters that were asked for
+    mutable std::map<char, double> spares_;            // of the characters that were asked for
+    mutable std::map<long, QTextCharFormat> formats_;  // by the distance of their letters in kSteps of a pixel
     std::vector<Laid> laid_;
     QSizeF size_;
 };

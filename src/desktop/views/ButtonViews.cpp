@@ -19,8 +19,8 @@ private:
 };
 
 // For a caption as wide as the core counts it, but never wider than its place.
-QFont caption_font(const std::string& caption, const forms::Control& control, const Scale& scale, int margin) {
-    const double room = scale.pixels(control.Width) - margin;
+QFont caption_font(const std::string& caption, const forms::Control& control, const Scale& scale, double margin) {
+    const double room = scale.pixels(control.Width) - margin * scale.zoom();
     const double width = std::min(core_width(caption, control, scale.zoom()), room);
     return fitted_to(screen_font(control, scale.zoom()), to_qt(without_mark(caption)), width);
 }
@@ -37,13 +37,16 @@ void show_colour(QWidget& widget, QPalette::ColorRole role, const QColor& wanted
     widget.setPalette(colours);
 }
 
-constexpr int kButtonMargin = 6;
-constexpr int kTickWidth = 22;
+// Pixels at zoom 1.
+constexpr double kButtonMargin = 6;
+constexpr double kTickWidth = 22;
 
 }  // namespace
 
 CommandButtonView::CommandButtonView(FormWindow& window, forms::CommandButton& button, QWidget* parent)
-    : View(window, button, new QPushButton(parent)), button_(button), widget_(static_cast<QPushButton&>(widget())) {
+    : View(window, button, button.Caption().empty() ? new FocusSink(parent) : new QPushButton(parent)),
+      button_(button),
+      widget_(static_cast<QPushButton&>(widget())) {
     widget_.setAutoDefault(true);
     connect(&widget_, &QPushButton::clicked, this, [this] { user_did([this] { forms::user::click(button_); }); });
 }

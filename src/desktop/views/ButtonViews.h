@@ -9,6 +9,12 @@
 
 namespace desktop::views {
 
+// A button without words: it takes the keyboard where nothing is to be chosen.
+class FocusSink final : public QPushButton {
+public:
+    using QPushButton::QPushButton;
+};
+
 class CommandButtonView final : public View {
 public:
     CommandButtonView(FormWindow& window, forms::CommandButton& button, QWidget* parent);

@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QMouseEvent>
+#include <QStyledItemDelegate>
 #include <QTableWidget>
 
 #include "desktop/Text.h"
@@ -12,6 +13,19 @@ namespace desktop::views {
 namespace {
 // The heading column, as a share of an ordinary one.
 constexpr double kHeadingColumn = 0.7;
+
+// The current cell is the program's own affair: it looks like the others, whoever has the keyboard.
+class CellDelegate final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+private:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->state &= ~(QStyle::State_HasFocus | QStyle::State_MouseOver);
+    }
+};
+
 }  // namespace
 
 // A table whose cells fill it; the heading row and column are cells like the others, so that they can be clicked.
@@ -27,7 +41,7 @@ public:
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setTabKeyNavigation(false);
-        setFocusPolicy(Qt::ClickFocus);  // no key does anything in it
+        setItemDelegate(new CellDelegate(this));
         for (int row = 0; row < rows; ++row) {
             for (int col = 0; col < cols; ++col)
                 setItem(row, col, new QTableWidgetItem);

@@ -27,7 +27,7 @@ double width_of(const std::string& line, const forms::Label& label) {
 
 void wrap(const std::string& text, const forms::Label& label, std::vector<std::string>& lines) {
     std::string line;
-    for (const std::string& word : split(text, " ")) {
+    for (const std::string& word : base::split(text, " ")) {
         const std::string longer = line.empty() ? word : line + " " + word;
         if (!line.empty() && width_of(longer, label) > label.Width) {
             lines.push_back(line);
@@ -92,7 +92,7 @@ LabelLine without_middle(const std::string& line, const forms::Label& label, dou
         shorter = plain.substr(0, (kept + 1) / 2) + kEllipsis + plain.substr(plain.size() - kept / 2);
         if (width_of(shorter, label) <= room) break;
     }
-    return {.text = replaced(shorter, "&", "&&"), .width = width_of(shorter, label), .whole = false};
+    return {.text = base::replaced(shorter, "&", "&&"), .width = width_of(shorter, label), .whole = false};
 }
 
 // The words at the end that do not lie behind anything, where they would stand anyway.

@@ -15,6 +15,7 @@ namespace desktop::views {
 // Draws each line as wide as the core counts it, so that a label that grew with its text always holds it.
 class LabelWidget final : public Surface {
 public:
+    QAccessible::Role accessible_role() const override { return QAccessible::StaticText; }
     using Surface::Surface;
 
     struct Line {
@@ -73,7 +74,7 @@ QRect LabelView::place() const {
 }
 
 void LabelView::show_state() {
-    widget_.set_look(label_.Opaque() ? colour(label_.BackColor) : QColor(), label_.BorderStyle() != 0);
+    widget_.set_look(label_.Opaque() ? colour(label_.BackColor) : QColor(), label_.BorderStyle() != 0, scale().zoom());
     LabelWidget::Content content;
     bool whole = true;
     for (const LabelLine& line : label_lines(label_)) {
@@ -90,7 +91,11 @@ void LabelView::show_state() {
     content.alignment = sides | Qt::AlignVCenter | Qt::TextDontClip | Qt::TextShowMnemonic | Qt::TextSingleLine;
     content.colour = colour(label_.ForeColor);
     widget_.set_content(std::move(content));
-    if (label_.AccessibleName().empty()) widget_.setAccessibleName(to_qt(without_mark(label_.Caption())));
+}
+
+QString LabelView::spoken_name() const {
+    const QString name = View::spoken_name();
+    return name.isEmpty() ? to_qt(without_mark(label_.Caption())) : name;
 }
 
 }  // namespace desktop::views

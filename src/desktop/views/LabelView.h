@@ -13,6 +13,7 @@ public:
 
     // What it draws, with the mark of its accelerator; a line a line.
     QString shown_words() const;
+    QString spoken_name() const override;
 
 private:
     void show_state() override;

@@ -2,6 +2,7 @@
 
 #include <QItemSelectionModel>
 
+#include "desktop/FormWindow.h"
 #include "desktop/views/ListWidget.h"
 #include "forms/User.h"
 
@@ -13,6 +14,9 @@ ListView::ListView(FormWindow& window, forms::ListBox& list, QWidget* parent)
       widget_(static_cast<ListWidget&>(widget())),
       model_(static_cast<LineModel*>(widget_.model())) {
     widget_.Chosen = [this](int line) { user_did([this, line] { forms::user::select(list_, line); }); };
+    widget_.Opened = [this] {
+        if (!this->window().retired()) this->window().keyboard().line_opened(list_);
+    };
 }
 
 void ListView::retire() { model_->renew(nullptr); }

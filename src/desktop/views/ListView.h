@@ -15,6 +15,7 @@ public:
 
 private:
     void show_state() override;
+    bool speaks_for_itself() const override { return false; }
     void show_selection();
 
     forms::ListBox& list_;

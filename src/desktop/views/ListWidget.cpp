@@ -31,13 +31,23 @@ ListWidget::ListWidget(const forms::ListBox& list, QWidget* parent) : QListView(
     setTabKeyNavigation(false);
 }
 
-void ListWidget::mousePressEvent(QMouseEvent* event) { pressed_ = event->button() == Qt::LeftButton; }
+void ListWidget::mousePressEvent(QMouseEvent* event) {
+    pressed_ = event->button() == Qt::LeftButton;
+    pressed_twice_ = false;
+}
+
+void ListWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+    mousePressEvent(event);
+    pressed_twice_ = pressed_;
+}
 
 void ListWidget::mouseReleaseEvent(QMouseEvent* event) {
     const bool clicked = pressed_ && event->button() == Qt::LeftButton && viewport()->rect().contains(event->pos());
     pressed_ = false;
     const QModelIndex line = indexAt(event->pos());
-    if (clicked && line.isValid() && Chosen) Chosen(line.row());
+    if (!clicked || !line.isValid()) return;
+    if (Chosen) Chosen(line.row());
+    if (pressed_twice_ && Opened) Opened();
 }
 
 void ListWidget::keyPressEvent(QKeyEvent* event) {

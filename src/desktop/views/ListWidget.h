@@ -29,6 +29,8 @@ public:
     ListWidget(const forms::ListBox& list, QWidget* parent);
 
     std::function<void(int line)> Chosen;
+    // A line was clicked twice, and chosen by that.
+    std::function<void()> Opened;
     // With several selected lines the arrow keys move a mark without choosing.
     void set_many(bool many) { many_ = many; }
     // The line that is chosen, -1 for none. Qt's own current line tells less: it moves to the first with the focus.
@@ -38,7 +40,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent*) override {}
     void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -51,6 +53,7 @@ private:
     bool many_ = false;
     int chosen_ = -1;
     bool pressed_ = false;
+    bool pressed_twice_ = false;
 };
 
 }  // namespace desktop::views

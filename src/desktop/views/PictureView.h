@@ -17,6 +17,7 @@ public:
     PictureView(FormWindow& window, forms::Image& image, QWidget* parent);
 
     const forms::Picture& shown_picture() const;
+    QString spoken_name() const override;
 
 private:
     void show_state() override;

@@ -13,6 +13,7 @@ public:
 
 private:
     void show_state() override;
+    bool speaks_for_itself() const override { return false; }
 
     forms::VScrollBar& bar_;
     QScrollBar& widget_;

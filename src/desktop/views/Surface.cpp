@@ -2,28 +2,37 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
+#include <cmath>
 
 namespace desktop::views {
 
 namespace {
 const QColor kFrameColour(0x64, 0x64, 0x64);
+const QColor kFrameOnDark(0x8F, 0xBE, 0xA2);
+}  // namespace
+
+void Surface::set_look(const QColor& background, bool framed, double zoom) {
+    const int frame = framed ? std::max(1, static_cast<int>(std::lround(zoom))) : 0;
+    if (background_ == background && frame_ == frame) return;
+    background_ = background;
+    frame_ = frame;
+    update();
 }
 
-void Surface::set_look(const QColor& background, bool framed) {
-    if (background_ == background && framed_ == framed) return;
-    background_ = background;
-    framed_ = framed;
-    update();
+bool Surface::on_dark_ground() const {
+    const auto* ground = dynamic_cast<const Surface*>(parentWidget());
+    return ground && ground->background().isValid() && ground->background().lightness() < 128;
 }
 
 void Surface::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (background_.isValid()) painter.fillRect(rect(), background_);
-    paint_content(painter, framed_ ? rect().adjusted(1, 1, -1, -1) : rect());
-    if (!framed_) return;
-    painter.setPen(kFrameColour);
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    const QRect inside = rect().adjusted(frame_, frame_, -frame_, -frame_);
+    paint_content(painter, inside);
+    if (frame_ == 0) return;
+    painter.setClipRegion(QRegion(rect()) - inside);
+    painter.fillRect(rect(), on_dark_ground() ? kFrameOnDark : kFrameColour);
 }
 
 void Surface::mousePressEvent(QMouseEvent* event) { pressed_ = event->button() == Qt::LeftButton; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAccessible>
 #include <QWidget>
 #include <functional>
 
@@ -12,9 +13,13 @@ public:
 
     std::function<void()> Clicked;
 
-    // An invalid colour is no background.
-    void set_look(const QColor& background, bool framed);
+    // An invalid colour is no background. The frame is as thin as the zoom lets a line of one pixel be.
+    void set_look(const QColor& background, bool framed, double zoom);
     const QColor& background() const { return background_; }
+    // Whether what it stands on is dark.
+    bool on_dark_ground() const;
+    // What it is for a screen reader.
+    virtual QAccessible::Role accessible_role() const = 0;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -26,7 +31,7 @@ protected:
 
 private:
     QColor background_;
-    bool framed_ = false;
+    int frame_ = 0;  // its width, logical pixels
     bool pressed_ = false;
 };
 

@@ -1,10 +1,12 @@
 #include "desktop/views/TextBoxView.h"
 
 #include <QKeyEvent>
+#include <QToolTip>
 #include <algorithm>
 
 #include "desktop/FormWindow.h"
 #include "desktop/Text.h"
+#include "desktop/Words.h"
 #include "forms/Form.h"
 #include "forms/User.h"
 #include "forms/Windows.h"
@@ -43,7 +45,9 @@ void TextBoxView::show_state() {
         widget().setPalette(colours);
     }
     const BoxText text(box_.Text(), box_.MultiLine);
-    if (shown_text() != text.shown()) show_text(text.shown());
+    const bool changed = shown_text() != text.shown();
+    if (changed) show_text(text.shown());
+    if (changed && box_.Spoken()) speak(text.shown());
     const int start = text.shown_position(box_.SelStart);
     const TextRange range{start, text.shown_position(box_.SelStart + box_.SelLength) - start};
     if (shown_selection() != range) select(range);
@@ -63,7 +67,7 @@ void TextBoxView::text_changed() {
         kept_end + (kept_start + kept_end < shorter
                         ? common_end(before.chopped(kept_end), now.chopped(kept_end), shorter - kept_start - kept_end)
                         : 0);
-    const std::string added = from_qt(now.mid(kept_start, now.size() - rest - kept_start));
+    const std::string added = typed_text(now.mid(kept_start, now.size() - rest - kept_start));
     const int from = old.core_position(kept_start);
     const int to = old.core_position(static_cast<int>(before.size()) - rest);
     user_did([this, &added, &now, from, to, caret = cursor()] {
@@ -75,6 +79,17 @@ void TextBoxView::text_changed() {
             if (text.shown() == now) forms::user::select_text(box_, text.core_position(caret), box_.SelLength);
         });
     });
+    if (!window().retired() && !added.empty()) tell_if_full();
+}
+
+// More would be dropped without a word.
+void TextBoxView::tell_if_full() {
+    constexpr int kNotNumbers = 10;  // a box for a number says it by itself
+    const int most = box_.MaxLength;
+    if (most <= kNotNumbers || static_cast<int>(box_.Text().size()) < most) return;
+    const QString words = QString(words::kBoxIsFull).arg(most);
+    QToolTip::showText(widget().mapToGlobal(QPoint(0, widget().height())), words, &widget());
+    speak(words);
 }
 
 void TextBoxView::selection_changed() {

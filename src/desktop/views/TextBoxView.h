@@ -28,6 +28,7 @@ protected:
 
     forms::TextBox& box() const { return box_; }
     void show_state() override;
+    bool speaks_for_itself() const override { return false; }
     // What subclasses call when the widget's text or selection changed.
     void text_changed();
     void selection_changed();
@@ -35,6 +36,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void tell_if_full();
+
     bool key_is_dropped(int key);
 
     forms::TextBox& box_;

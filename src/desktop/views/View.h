@@ -28,10 +28,15 @@ public:
     // The form is about to be destroyed.
     virtual void retire() {}
 
+    // What a screen reader says of it: the control's own name for that, or else the words that stand beside it.
+    virtual QString spoken_name() const;
+
 protected:
     // What the kind of control adds to place, visibility, font and colours.
     virtual void show_state() = 0;
     virtual QFont font() const;
+    // Whether what it shows is its name as well; a list, a box or a bar takes the words beside it for one.
+    virtual bool speaks_for_itself() const { return true; }
     // Where the widget stands: as a rule the control's own place.
     virtual QRect place() const;
 
@@ -42,6 +47,9 @@ protected:
     // Runs what the user did as an event of the core, if the core takes events now, and brings the widget up to the
     // control after it, even where nothing changed there. After it the form may be gone.
     void user_did(const std::function<void()>& event);
+
+    // Has a screen reader say the words.
+    void speak(const QString& words);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -192,7 +192,7 @@ TEST_F(UpdateRoad, TheInstallerIsFetchedAndStartedWithTheFolderAsItsOneArgument)
         "mv \"$(dirname \"$0\")/half\" \"$(dirname \"$0\")/antwoord\"\n";
     server.answers["/tavrin/tavrinupdate.exe"] = answer(installer, installer.size());
     start_program();
-    auto& main = screen<frmTavrin01>();
+    auto& main = screen<library::frmTavrin01>();
     ASSERT_TRUE(widget(main.cmdDownLoaden).isEnabled());
     click(main.cmdDownLoaden);
     EXPECT_TRUE(ended);

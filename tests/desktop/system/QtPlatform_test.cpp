@@ -46,6 +46,32 @@ TEST(Drives, AreTypedByFileSystemAndByTheMarkOfTheirDisk) {
     EXPECT_EQ(desktop::system::label_of_volume("/"), desktop::from_qt(QStorageInfo::root().name()));
 }
 
+TEST(Drives, NamedInTheSettingsFileAreSticksWhileTheirFolderIsThere) {
+    QTemporaryDir folder;
+    QTemporaryDir elsewhere;
+    const std::string absolute = desktop::from_qt(elsewhere.path());
+    const std::string beside = desktop::from_qt(folder.filePath("stick"));
+    QFile settings(folder.filePath("settings.ini"));
+    ASSERT_TRUE(settings.open(QIODevice::WriteOnly));
+    settings.write("[Platform]\r\nDrives= stick ; gone;;" + elsewhere.path().toUtf8() + "/;stick;settings.ini\r\n");
+    settings.close();
+    desktop::QtHost host(1.0);
+    desktop::system::QtPlatform platform(host, absolute, desktop::from_qt(settings.fileName()));
+    EXPECT_EQ(platform.drives().front(), absolute);
+
+    ASSERT_TRUE(QDir(folder.path()).mkdir("stick"));
+    const std::vector<std::string> drives = platform.drives();
+    ASSERT_GE(drives.size(), 3u);
+    EXPECT_EQ(drives[0], beside);
+    EXPECT_EQ(drives[1], absolute);
+    EXPECT_EQ(std::vector(drives.begin() + 2, drives.end()), desktop::system::mounted_volumes());
+    for (const std::string& stick : {beside, absolute}) {
+        EXPECT_EQ(platform.drive_type(stick), 2);
+        EXPECT_EQ(platform.volume_label(stick), "");
+    }
+    EXPECT_NE(platform.drive_type("/"), 2);
+}
+
 TEST(KeyCodes, LeadBothWays) {
     for (const int code :
          {0x08, 0x09, 0x0D, 0x10, 0x11, 0x12, 0x1B, 0x21, 0x22, 0x23, 0x24, 0x2E, 0x70, 0x7F, int{'A'}, int{'7'}}) {
@@ -71,22 +97,22 @@ protected:
 
     QTemporaryDir folder;
     desktop::QtHost host{1.0};
-    desktop::system::QtPlatform platform{host, desktop::from_qt(folder.path())};
+    desktop::system::QtPlatform platform{host, desktop::from_qt(folder.path()), {}};
 };
 
 TEST_F(PlatformTest, AMessageBoxGivesTheAnswer) {
     answer("Ja");
-    EXPECT_EQ(platform.message_box(box_style::kQuestion, "Titel", "Wissen?"), Answer::Yes);
+    EXPECT_EQ(platform.message_box(platform::box_style::kQuestion, "Titel", "Wissen?"), platform::Answer::Yes);
     answer("Nee");
-    EXPECT_EQ(platform.message_box(box_style::kInformationYesNo, "Titel", "Wissen?"), Answer::No);
+    EXPECT_EQ(platform.message_box(platform::box_style::kInformationYesNo, "Titel", "Wissen?"), platform::Answer::No);
     answer("OK");
-    EXPECT_EQ(platform.message_box(box_style::kInformation, "Titel", "<b>klaar</b>"), Answer::Ok);
+    EXPECT_EQ(platform.message_box(platform::box_style::kInformation, "Titel", "<b>klaar</b>"), platform::Answer::Ok);
 }
 
 TEST_F(PlatformTest, AnotherInstanceIsOneOfTheSameFolder) {
     QTemporaryDir other;
-    desktop::system::QtPlatform second{host, desktop::from_qt(folder.path())};
-    desktop::system::QtPlatform elsewhere{host, desktop::from_qt(other.path())};
+    desktop::system::QtPlatform second{host, desktop::from_qt(folder.path()), {}};
+    desktop::system::QtPlatform elsewhere{host, desktop::from_qt(other.path()), {}};
     EXPECT_FALSE(platform.another_instance_runs());
     EXPECT_TRUE(second.another_instance_runs());
     EXPECT_FALSE(elsewhere.another_instance_runs());
@@ -102,26 +128,62 @@ TEST(Keyboard, CapsLockIsAskedOfTheWindowSystem) {
     EXPECT_TRUE(QTest::qWaitFor([] { return !desktop::system::caps_lock_is_on(); }));
 }
 
-TEST(Help, WithoutAViewerItSaysSo) {
+// Programs of the desktop that are scripts; what they are asked to open stands in a file.
+class Help : public testing::Test {
+protected:
+    void add(const QString& name, const QString& script) {
+        if (script.isEmpty()) return;
+        QFile program(folder.filePath(name));
+        ASSERT_TRUE(program.open(QIODevice::WriteOnly));
+        program.write(QString("#!/bin/sh\n%1\n").arg(script).toUtf8());
+        program.setPermissions(QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+    }
+    void put(const QString& name) {
+        QDir(folder.path()).mkpath(QFileInfo(name).path());
+        ASSERT_TRUE(QFile(folder.filePath(name)).open(QIODevice::WriteOnly));
+    }
+    // The names of what was opened, in turn.
+    QString opened() const {
+        QFile file(folder.filePath("opened"));
+        if (!file.open(QIODevice::ReadOnly)) return {};
+        return QString::fromUtf8(file.readAll()).remove(folder.path() + "/").simplified();
+    }
+    QTemporaryDir folder{QDir(QDir::temp().canonicalPath()).filePath("help-XXXXXX")};
+};
+
+TEST_F(Help, OpensTheViewerOrThePagesOrSaysThatNothingOpens) {
+    const QString opens = "echo \"$1\" >>\"${0%/*}/opened\"";
     struct {
-        const char* viewer;  // the script that opens files; none: there is no such program
+        QString viewer;  // what the desktop names
+        QString opener;  // none: there is no such program
+        bool pages;
+        QString opened;
         bool told;
-    } const rows[] = {{"", true}, {"#!/bin/sh\nexit 3\n", true}, {"#!/bin/sh\nexit 0\n", false}};
+    } const rows[] = {
+        {"echo viewer.desktop", opens, true, "help.chm", false},
+        {"exit 4", opens, true, "installed/help/index.html", false},
+        {"", opens, true, "installed/help/index.html", false},
+        {"echo viewer.desktop", opens + "; case $1 in *chm) exit 3;; esac", true, "help.chm installed/help/index.html",
+         false},
+        {"echo viewer.desktop", opens + "; exit 3", true, "help.chm installed/help/index.html", true},
+        {"exit 4", opens, false, "", true},
+        {"", "", true, "", true},
+    };
     const QByteArray path = qgetenv("PATH");
     for (const auto& row : rows) {
-        QTemporaryDir folder;
-        QFile viewer(folder.filePath("xdg-open"));
-        if (*row.viewer && viewer.open(QIODevice::WriteOnly)) {
-            viewer.write(row.viewer);
-            viewer.setPermissions(QFileDevice::ReadOwner | QFileDevice::ExeOwner);
-            viewer.close();
-        }
+        QDir(folder.path()).removeRecursively();
+        put("installed/help.chm");
+        if (row.pages) put("installed/help/index.html");
+        QFile::link(folder.filePath("installed/help.chm"), folder.filePath("help.chm"));
+        add("xdg-mime", row.viewer);
+        add("xdg-open", row.opener);
         qputenv("PATH", QFile::encodeName(folder.path()));
         desktop::QtHost host(1.0);
-        TestPlatform platform(host, desktop::from_qt(folder.path()));
+        TestPlatform platform(host, desktop::from_qt(folder.path()), {});
         platform.show_help(desktop::from_qt(folder.filePath("help.chm")));
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !qApp->findChild<QProcess*>(); })) << row.viewer;
-        EXPECT_EQ(!platform.told.empty(), row.told) << row.viewer;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !qApp->findChild<QProcess*>(); }));
+        EXPECT_EQ(opened(), row.opened);
+        EXPECT_EQ(!platform.told.empty(), row.told) << row.opened.toStdString();
         qputenv("PATH", path);
     }
 }

@@ -202,13 +202,13 @@ TEST_F(Controls, AGridShowsItsCellsAndReportsEveryClick) {
         form.grid.Row = 3;
         form.grid.Col = 2;
         form.grid.SetText("H Aas");
-        form.grid.SetCellBackColor(Colour::rgb(255, 255, 0));
+        form.grid.SetCellBackColor(base::Colour::rgb(255, 255, 0));
     });
     EXPECT_EQ(table.item(3, 2)->text(), "H Aas");
     EXPECT_EQ(table.item(3, 2)->background().color(), QColor(255, 255, 0));
     program([&] {
         form.grid.Col = 0;
-        form.grid.SetCellBackColor(Colour::rgb(0, 255, 0));
+        form.grid.SetCellBackColor(base::Colour::rgb(0, 255, 0));
     });
     EXPECT_EQ(table.item(3, 0)->background().color(), QColor(0, 255, 0)) << "a heading may have a colour of its own";
     EXPECT_EQ(table.item(4, 0)->background().color(), QColor(0xF0, 0xF0, 0xF0));

@@ -1,0 +1,111 @@
+"""What a screen reader gets from the real program, over the real bus.
+
+usage: screen_reader.py PROGRAM SAMPLES     within a session bus and a display with a window manager
+"""
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+
+import pyatspi
+from gi.repository import GLib
+
+PATIENCE = 60  # seconds
+
+
+def wait_for(what, condition):
+    end = time.time() + PATIENCE
+    while time.time() < end:
+        try:
+            found = condition()
+        except Exception:  # the tree changes while it is walked
+            found = None
+        if found:
+            return found
+        pump(0.1)
+    sys.exit("did not come: " + what)
+
+
+def pump(seconds):
+    """Lets events of the bus come in."""
+    end = time.time() + seconds
+    while time.time() < end:
+        while GLib.MainContext.default().pending():
+            GLib.MainContext.default().iteration(False)
+        time.sleep(0.02)
+
+
+def visible(thing):
+    return thing.getState().contains(pyatspi.STATE_SHOWING)
+
+
+def everything(thing):
+    for child in thing:
+        if child is not None and visible(child):
+            yield child
+            yield from everything(child)
+
+
+def program():
+    return next((a for a in pyatspi.Registry.getDesktop(0) if a and a.name == "Zandolin Lomert"), None)
+
+
+def find(role, name):
+    return next((t for t in everything(program()) if t.getRoleName() == role and t.name == name), None)
+
+
+def click(role, name):
+    thing = wait_for(role + " " + name, lambda: find(role, name))
+    place = thing.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+    subprocess.run(["xdotool", "mousemove", str(place.x + place.width // 2), str(place.y + place.height // 2),
+                    "click", "1"], check=True)
+
+
+def check(what, truth):
+    print(("ok: " if truth else "NOT: ") + what)
+    if not truth:
+        check.failed = True
+
+
+check.failed = False
+
+
+def main():
+    folder = tempfile.mkdtemp()
+    shutil.copytree(sys.argv[2], folder, dirs_exist_ok=True)
+    with open(os.path.join(folder, "standaardtavrin.ini"), "w") as settings:
+        settings.write("[Platform]\r\nProgramFiles=.\r\nServer=127.0.0.1:9\r\n[Standaard]\r\nSnelheid=300\r\n")
+    said = []
+    pyatspi.Registry.registerEventListener(lambda event: said.append(event.source.description),
+                                           "object:property-change:accessible-description")
+    process = subprocess.Popen([sys.argv[1], "--program", folder])
+    try:
+        wait_for("the program", program)
+        wait_for("the list", lambda: find("list", "Spellen"))
+        main_screen = list(everything(program()))
+        check("every button of the main screen has a name",
+              all(t.name for t in main_screen if t.getRoleName() == "push button"))
+        check("they are seven and Downloaden", sum(t.getRoleName() == "push button" for t in main_screen) == 8)
+
+        click("list item", "QVT_Spel 001")
+        click("push button", "Tavrin")
+        wait_for("the table", lambda: find("push button", "Start"))
+        names = [t.name for t in everything(program())]
+        check("the contract is read with its suit", names[names.index("Zuid: 4") + 1] == "Harten")
+        check("a place without a card is silent",
+              all(t.name for t in everything(program()) if t.getRoleName() == "image"))
+        click("push button", "Start")
+        wait_for("the first text", lambda: any("West legt ruitenaas op tafel" in words for words in said))
+        check("the lead was told with its seat", any("West: Ruiten Aas" in words for words in said))
+        click("push button", "Verder")
+        wait_for("the second card", lambda: any("Noord: " in words for words in said))
+        check("the card of the next seat was told", True)
+    finally:
+        process.kill()
+        shutil.rmtree(folder)
+    sys.exit(1 if check.failed else 0)
+
+
+main()
