@@ -36,9 +36,7 @@ awk 'BEGIN { RS = "\f" } /Alle toetsen/ && /Ctrl/ && /Alt/ { pages++ } END { exi
 
 # What is bold is a word of a screen, in the spelling of the program's messages.
 tr '\n' ' ' <"$root/src/resources/MessageTable.cpp" | sed 's/"  *"//g' | grep -o '"[^"]*"' | tr -d '"&' >"$work/words"
-for words in "$root"/src/*/Words.h; do
-    tr '\n' ' ' <"$words" | grep -o '( *"[^"]*")' | tr -d '()"&' | sed 's/^ *//; s/\.\.\.$//' >>"$work/words"
-done
+cat "$root"/src/*/Words.h | tr '\n' ' ' | grep -o '( *"[^"]*")' | tr -d '()"&' | sed 's/^ *//; s/\.\.\.$//' >>"$work/words"
 echo "Zandolin Lomert" >>"$work/words"
 cat "$root"/docs/manual/*.html | tr '\n' ' ' | grep -o '<b>[^<]*</b>' | sed 's|</*b>||g' | sort -u | while read -r word; do
     grep -qixF "$word" "$work/words" || echo "$word"
