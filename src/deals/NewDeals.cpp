@@ -10,14 +10,6 @@ namespace deals {
 namespace {
 
 constexpr std::size_t kAtATime = 1000;
-constexpr std::chrono::hours kLeftBehind{1};  // what is younger may be of an import that still runs
-
-void clear_up(const std::string& folder) {
-    try {
-        platform::remove_leftovers(folder, std::chrono::system_clock::now() - kLeftBehind);
-    } catch (const base::Fout&) {  // Not there yet, or not ours to clear.
-    }
-}
 
 }  // namespace
 
@@ -27,8 +19,8 @@ NewDeals::NewDeals(const std::string& program_folder, Report& report)
       lessons_(platform::join_path(program_folder, "aftavrin")),
       numbers_(companion_.deals(), lessons_) {
     companion_.leave_own_folder();
-    clear_up(companion_.deals());
-    clear_up(lessons_);
+    platform::clear_leftovers(companion_.deals());
+    platform::clear_leftovers(lessons_);
     tell_notes();
 }
 

@@ -10,6 +10,8 @@
 #include "platform/CodePage.h"
 #include "platform/Failure.h"
 #include "platform/FileBeside.h"
+#include "platform/FolderBeside.h"
+#include "platform/OpenFile.h"
 #include "platform/OpenFolder.h"
 #include "platform/Paths.h"
 #include "platform/SystemCalls.h"
@@ -53,6 +55,7 @@ const Entry* find(const Entries& entries, const std::string& name) {
     return first == end ? nullptr : &first->second;
 }
 
+// A file of a folder whose entries those are.
 Target target_of(const fs::path& folder, const Entries& entries, const std::string& name) {
     const Entry* there = find(entries, name);
     Target target{folder / path_of(there ? there->bytes : name_bytes(name))};
@@ -64,7 +67,8 @@ Target target_of(const fs::path& folder, const Entries& entries, const std::stri
     return target;
 }
 
-void copy(OpenFile& source, FileBeside& target) {
+void copy(const fs::path& from, system_calls::OpenFor reading, auto& target) {
+    OpenFile source(from, reading);
     std::string part(kPart, '\0');
     while (const std::size_t got = source.read(part.data(), part.size()))
         target.write(std::string_view(part).substr(0, got));
@@ -74,6 +78,14 @@ void copy(OpenFile& source, FileBeside& target) {
 
 }  // namespace
 
+// A plain file that is copied.
+struct Copies::Source {
+    std::string name;
+    fs::path path;
+    system_calls::OpenFor reading;
+    system_calls::About about{};
+};
+
 Copies::Copies() = default;
 Copies::~Copies() = default;
 
@@ -81,38 +93,59 @@ void Copies::add_folder(std::string_view from, const std::vector<std::string>& n
                         Links links_in_from) {
     const fs::path source_folder = find_case_blind(from);
     const fs::path target_folder = find_case_blind(to);
-    const Entries sources = entries_of(source_folder);
+    const Entries entries = entries_of(source_folder);
     const Entries targets = entries_of(target_folder);
+    const bool follow = links_in_from == Links::Follow;
+    std::vector<Source> sources;
     for (const std::string& name : names) {
-        const Entry* source = find(sources, name);
-        if (!source) throw base::Fout(base::FoutNummer::FileNotFound, name);
-        if (source->link && links_in_from == Links::Refuse) refuse(path_of(source->bytes));
+        const Entry* entry = find(entries, name);
+        if (!entry) throw base::Fout(base::FoutNummer::FileNotFound, name);
+        if (entry->link && !follow) refuse(path_of(entry->bytes));
+        Source& source = sources.emplace_back(
+            Source{name, source_folder / path_of(entry->bytes),
+                   follow ? system_calls::OpenFor::Reading : system_calls::OpenFor::ReadingNoLink});
+        if (system_calls::status(source.path, source.about) != 0) fail(errno, source.path);
+        if (source.about.kind != system_calls::Kind::File) refuse(source.path);
+    }
+    if (targets.empty() && !sources.empty()) {
+        fill(target_folder, sources);
+        return;
     }
     remove_leftovers(to);
     std::vector<std::unique_ptr<FileBeside>> added;
-    for (const std::string& name : names) {
-        const fs::path path = source_folder / path_of(find(sources, name)->bytes);
-        system_calls::About about;
-        if (system_calls::status(path, about) != 0) fail(errno, path);
-        if (about.kind != system_calls::Kind::File) refuse(path);
-        OpenFile source(path, links_in_from == Links::Refuse ? system_calls::OpenFor::ReadingNoLink
-                                                             : system_calls::OpenFor::Reading);
-        Target target = target_of(target_folder, targets, name);
+    for (const Source& source : sources) {
+        Target target = target_of(target_folder, targets, source.name);
         const bool itself =
-            target.about && target.about->device == about.device && target.about->number == about.number;
+            target.about && target.about->device == source.about.device && target.about->number == source.about.number;
         if (itself) continue;
         FileBeside& beside = *added.emplace_back(std::make_unique<FileBeside>(std::move(target)));
         devices_.emplace(beside.device(), target_folder);
-        copy(source, beside);
+        copy(source.path, source.reading, beside);
     }
     std::ranges::move(added, std::back_inserter(files_));
 }
 
+// Two names that differ in case only may be one file there: the last of them stays, as over a file that is there.
+void Copies::fill(const fs::path& empty_folder, const std::vector<Source>& sources) {
+    const fs::path parent = empty_folder.parent_path();
+    if (cleared_.insert(parent).second) clear_leftovers(path_text(parent));
+    auto beside = std::make_unique<FolderBeside>(parent);
+    devices_.emplace(beside->device(), parent);
+    for (const Source& source : sources) {
+        OpenFile target(beside->path() / path_of(name_bytes(source.name)), system_calls::OpenFor::WritingAnew);
+        copy(source.path, source.reading, target);
+    }
+    folders_.push_back({std::move(beside), empty_folder});
+}
+
 void Copies::finish() {
     const auto files = std::exchange(files_, {});
-    if (!files.empty()) flush();
+    const auto folders = std::exchange(folders_, {});
+    if (!files.empty() || !folders.empty()) flush();
     for (const auto& file : files)
         file->take_place();
+    for (const NewFolder& folder : folders)
+        folder.beside->take_place(folder.place);
 }
 
 void Copies::flush() {

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,10 +14,11 @@
 namespace platform {
 
 class FileBeside;
+class FolderBeside;
 
-// Copies of files that take their places together: each is written beside its target at once, `finish` brings all of
-// them to the disk with one flush and then renames them. What is not finished goes again, and every target is as it
-// was. Failures as in Files.h.
+// Copies of files that take their places together: each is written beside its target at once, or in a folder beside
+// one that is empty; `finish` brings all of them to the disk with one flush and then renames what is beside. What is
+// not finished goes again, and every target is as it was. Failures as in Files.h.
 class Copies {
 public:
     Copies();
@@ -34,7 +36,16 @@ public:
     void flush();
 
 private:
+    struct Source;
+    struct NewFolder {
+        std::unique_ptr<FolderBeside> beside;
+        std::filesystem::path place;
+    };
+    void fill(const std::filesystem::path& empty_folder, const std::vector<Source>& sources);
+
     std::vector<std::unique_ptr<FileBeside>> files_;
+    std::vector<NewFolder> folders_;
+    std::set<std::filesystem::path> cleared_;                 // of what was left behind in them
     std::map<std::uint64_t, std::filesystem::path> devices_;  // of all targets, with a folder on each
 };
 

@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <atomic>
 #include <cerrno>
 #include <utility>
 
@@ -19,8 +20,9 @@ bool is_link(const std::filesystem::path& path) {
 
 }  // namespace
 
-std::string beside_name(unsigned number) {
-    return std::string(kBesideName) + std::to_string(getpid()) + "-" + std::to_string(number);
+std::string beside_name() {
+    static std::atomic<unsigned> given = 0;
+    return std::string(kBesideName) + std::to_string(getpid()) + "-" + std::to_string(given++);
 }
 
 FileBeside::FileBeside(Target target) : target_(std::move(target)) {
@@ -29,8 +31,8 @@ FileBeside::FileBeside(Target target) : target_(std::move(target)) {
         const OpenFile writable(target_.path, system_calls::OpenFor::Writing);
         if (is_link(target_.path) && system_calls::resolve(target_.path, target_.path) != 0) fail(errno, target_.path);
     }
-    for (unsigned number = 0; !file_; ++number) {
-        path_ = target_.path.parent_path() / beside_name(number);
+    while (!file_) {
+        path_ = target_.path.parent_path() / beside_name();
         system_calls::About about;
         if (system_calls::link_status(path_, about) == 0) continue;
         file_.emplace(path_, system_calls::OpenFor::WritingNew, target_.about ? target_.about->mode & 0777U : 0666U);

@@ -11,8 +11,8 @@ namespace platform {
 
 // What the files that are written beside others are called: hidden, and as nobody else calls one.
 inline constexpr std::string_view kBesideName = ".zandolin-nieuw-";
-// One of this process.
-std::string beside_name(unsigned number);
+// One that this process has not given yet.
+std::string beside_name();
 
 // A file to be written, and what it is if it is there.
 struct Target {

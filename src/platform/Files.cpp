@@ -242,6 +242,14 @@ void remove_leftovers(std::string_view folder, FileTime older_than) {
     });
 }
 
+void clear_leftovers(std::string_view folder) noexcept {
+    constexpr std::chrono::hours kStillMade{1};
+    try {
+        remove_leftovers(folder, std::chrono::system_clock::now() - kStillMade);
+    } catch (const base::Fout&) {  // The folder is not there yet, or not ours to clear.
+    }
+}
+
 void delete_file(std::string_view path) {
     const fs::path found = find_case_blind(path);
     if (system_calls::remove(found) != 0) fail(errno, found);

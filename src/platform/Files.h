@@ -61,6 +61,8 @@ void replace_file(std::string_view path, std::string_view bytes);
 // that.
 using FileTime = std::chrono::system_clock::time_point;
 void remove_leftovers(std::string_view folder, FileTime older_than = FileTime::max());
+// Those that nobody is still making, as far as that goes.
+void clear_leftovers(std::string_view folder) noexcept;
 
 void delete_file(std::string_view path);
 // A folder and the files in it; one that holds folders is a failure (75 or 58).

@@ -1,11 +1,14 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace platform {
+
+class FolderBeside;
 
 // A file of a folder that is made.
 struct NewFile {
@@ -18,7 +21,7 @@ struct NewFile {
 // there stays. What has not taken its place goes again. Failures as in Files.h.
 class NewFolders {
 public:
-    NewFolders() = default;
+    NewFolders();
     ~NewFolders();
     NewFolders(const NewFolders&) = delete;
     NewFolders& operator=(const NewFolders&) = delete;
@@ -32,15 +35,12 @@ public:
 
 private:
     struct Folder {
-        std::filesystem::path beside;
+        std::unique_ptr<FolderBeside> beside;
         std::filesystem::path place;
     };
-    void flush() const;
-    void remove_those_left() noexcept;
 
     std::vector<Folder> folders_;
     std::size_t placed_ = 0;
-    unsigned number_ = 0;  // of the next one beside
 };
 
 }  // namespace platform

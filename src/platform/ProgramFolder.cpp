@@ -50,7 +50,7 @@ void add_manual(const std::string& manual, const std::string& folder) {
 
 // Beside its place, so that a start that breaks off leaves nothing in it.
 void make_folder_of(const std::string& installed, const std::string& home, const std::string& folder) {
-    const std::string beside = join_path(home, beside_name(0));
+    const std::string beside = join_path(home, beside_name());
     try {
         copy_tree(join_path(installed, "program"), beside);
         add_manual(join_path(installed, "help.chm"), beside);

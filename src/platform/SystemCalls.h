@@ -67,7 +67,8 @@ int sync_with_device(int file, const std::filesystem::path& path);
 int sync_device(const std::filesystem::path& folder);
 int close(int file, const std::filesystem::path& path);
 int rename(const std::filesystem::path& from, const std::filesystem::path& to);
-int replace(const std::filesystem::path& from, const std::filesystem::path& to);  // of a file that may be there
+int replace(const std::filesystem::path& from, const std::filesystem::path& to);         // of a file that may be there
+int replace_folder(const std::filesystem::path& from, const std::filesystem::path& to);  // of an empty one likewise
 int remove(const std::filesystem::path& path);
 int remove_folder(const std::filesystem::path& path);
 int make_folder(const std::filesystem::path& path);

@@ -134,6 +134,7 @@ int rename(const fs::path& from, const fs::path& to) {
     return fails(Call::Rename, to) ? -1 : ::rename(from.c_str(), to.c_str());
 }
 int replace(const fs::path& from, const fs::path& to) { return system_calls::rename(from, to); }
+int replace_folder(const fs::path& from, const fs::path& to) { return system_calls::rename(from, to); }
 int remove(const fs::path& path) { return fails(Call::Remove, path) ? -1 : ::unlink(path.c_str()); }
 int remove_folder(const fs::path& path) { return fails(Call::RemoveFolder, path) ? -1 : ::rmdir(path.c_str()); }
 int make_folder(const fs::path& path) { return fails(Call::MakeFolder, path) ? -1 : ::mkdir(path.c_str(), 0777); }

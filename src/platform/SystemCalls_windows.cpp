@@ -243,6 +243,12 @@ int replace(const fs::path& from, const fs::path& to) {
     return MoveFileExW(source, target, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) == 0 ? set_errno() : 0;
 }
 
+// Nothing takes the place of a folder in one step.
+int replace_folder(const fs::path& from, const fs::path& to) {
+    if (system_calls::remove_folder(to) != 0 && errno != ENOENT) return -1;
+    return system_calls::rename(from, to);
+}
+
 int remove(const fs::path& path) {
     if (fails(Call::Remove, path)) return -1;
     const auto name = system_name(path);

@@ -191,6 +191,42 @@ TEST_F(Files, AreReplacedWholeOrNotAtAllWhicheverCallFails) {
     }
 }
 
+// A folder that is empty gets all files of the copy or none, and a failure leaves nothing beside it.
+TEST_F(Files, FillAnEmptyFolderWholeOrNotAtAllWhicheverCallFails) {
+    const Lines both{"doel", "twee"};
+    put("van/doel", std::string(100000, 'n'));
+    put("van/twee", "");
+    for (int number = 0, came = true; came; ++number) {
+        fs::remove_all(folder / "naar");
+        fs::create_directory(folder / "naar");
+        const int failure = [&] {
+            const FailingCall failing(number, EIO);
+            const int found = failure_of([&] { copy_folder(in("van"), in("naar")); });
+            came = failing.came(number);
+            return found;
+        }();
+        EXPECT_TRUE(failure == 57 || failure == 0) << number;
+        if (names("naar") != both) EXPECT_EQ(names("naar"), Lines{}) << number;
+        if (failure == 0) EXPECT_EQ(bytes_of("naar/doel").size(), 100000U) << number;
+        EXPECT_EQ(names(), (Lines{"naar", "van"})) << number;
+        ASSERT_LT(number, 100);
+    }
+    EXPECT_EQ(names("naar"), both);
+}
+
+// What a copy that was killed left beside the deals of a stick goes with the next one, when nobody can be at it any
+// more.
+TEST_F(Files, LeftBesideAFolderGoWithTheNextCopy) {
+    put("van/doel", "n");
+    put("stick/.zandolin-nieuw-1-2/doel", "half");
+    put("stick/.zandolin-nieuw-3-4/doel", "half");
+    fs::last_write_time(folder / "stick/.zandolin-nieuw-1-2", fs::file_time_type::clock::now() - std::chrono::hours(2));
+    fs::create_directory(folder / "stick/naar");
+    copy_folder(in("van"), in("stick/naar"));
+    EXPECT_EQ(names("stick"), (Lines{".zandolin-nieuw-3-4", "naar"}));
+    EXPECT_EQ(bytes_of("stick/naar/doel"), "n");
+}
+
 TEST_F(Files, ThatMayNotBeWrittenAreNotReplaced) {
     put("vast", "oud");
     const platform::system_calls::HookScope fast([this](platform::system_calls::Call call, const char* path) {
