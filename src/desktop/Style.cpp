@@ -1,10 +1,14 @@
 #include "desktop/Style.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QStyleOption>
+#include <QToolTip>
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/Colours.h"
+#include "desktop/FormWindow.h"
 #include "desktop/Look.h"
 
 namespace desktop {
@@ -61,21 +65,41 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
 }
 
 int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
-    const bool tick = metric == PM_IndicatorWidth || metric == PM_IndicatorHeight;
-    if (!tick || !qobject_cast<const QCheckBox*>(widget)) return QProxyStyle::pixelMetric(metric, option, widget);
-    return std::min(static_cast<int>(std::lround(widget->font().pixelSize() * kTickToFont)), widget->height());
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    switch (metric) {
+        case PM_IndicatorWidth:
+        case PM_IndicatorHeight:
+            if (!qobject_cast<const QCheckBox*>(widget)) return usual;
+            return std::min(static_cast<int>(std::lround(widget->font().pixelSize() * kTickToFont)), widget->height());
+        case PM_ScrollBarExtent:
+        case PM_ScrollBarSliderMin:
+        case PM_TextCursorWidth:
+        case PM_MessageBoxIconSize:
+            return std::max(1, static_cast<int>(std::lround(usual * FormWindow::zoom_around(widget))));
+        default:
+            return usual;
+    }
+}
+
+void Style::use() {
+    QApplication::setStyle(new Style);
+    QApplication::setPalette(colours());
+    QToolTip::setPalette(colours());
 }
 
 QPalette Style::colours() {
     QPalette palette(colour(forms::kFaceColour));
-    palette.setColor(QPalette::Base, colour(forms::kWindowColour));
-    const QColor selected(0x1F, 0x5F, 0xA8);
-    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
-        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-            palette.setColor(group, role, colour(forms::kTextColour));
-        }
-        palette.setColor(group, QPalette::Highlight, selected);
-        palette.setColor(group, QPalette::HighlightedText, Qt::white);
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        const QColor words = group == QPalette::Disabled ? colours::kDisabledWords : colour(forms::kTextColour);
+        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+            palette.setColor(group, role, words);
+        palette.setColor(group, QPalette::PlaceholderText, colours::kDisabledWords);
+        palette.setColor(group, QPalette::Base,
+                         colour(group == QPalette::Disabled ? forms::kFaceColour : forms::kWindowColour));
+        palette.setColor(group, QPalette::Highlight, colours::kSelection);
+        palette.setColor(group, QPalette::HighlightedText, colours::kSelectedWords);
+        palette.setColor(group, QPalette::ToolTipBase, colours::kTip);
+        palette.setColor(group, QPalette::ToolTipText, colours::kTipWords);
     }
     return palette;
 }

@@ -77,6 +77,7 @@ platform::Answer QtPlatform::message_box(int style, const std::string& title, co
     QMessageBox box(style == platform::box_style::kQuestion ? QMessageBox::Question : QMessageBox::Information,
                     to_qt(title), to_qt(text), QMessageBox::NoButton, host_.front());
     box.setTextFormat(Qt::PlainText);
+    box.setFont(screen_font(kUsualPoints, false, FormWindow::zoom_around(&box)));
     const QAbstractButton* yes = nullptr;
     if (asks) {
         yes = box.addButton(words::kYes, QMessageBox::YesRole);
