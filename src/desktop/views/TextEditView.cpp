@@ -4,9 +4,11 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QTextDocument>
+#include <algorithm>
 
 #include "desktop/Colours.h"
 #include "desktop/views/BoxLayout.h"
+#include "forms/Form.h"
 #include "forms/TextMeasure.h"
 
 namespace desktop::views {
@@ -82,6 +84,14 @@ void TextEditView::show_state() {
     static_cast<EditWidget&>(widget_).set_zoom(measures.zoom);
     layout_->set_measures(measures);
     TextBoxView::show_state();
+}
+
+QRect TextEditView::place() const {
+    QRect place = TextBoxView::place();
+    const forms::Control* below = const_cast<forms::Container&>(box().container()).as_control();
+    const int end = scale().pixels(below ? below->Height() : box().form().Height());
+    if (place.top() < end) place.setBottom(std::min(place.bottom(), end - 1));
+    return place;
 }
 
 TextRange TextEditView::shown_selection() const {

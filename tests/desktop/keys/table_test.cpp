@@ -90,6 +90,8 @@ TEST_F(TableKeys, ALongQuestionIsTurnedOverPageByPage) {
     for (int i = 0; i < 20; ++i)
         key(Qt::Key_PageDown);
     EXPECT_EQ(bar.value(), bar.maximum());
+    const QWidget& surface = widget(table.picBack);
+    EXPECT_TRUE(surface.rect().contains(widget(table.txtVraag).geometry())) << "the last line can be read";
     for (int i = 0; i < 20; ++i)
         key(Qt::Key_PageUp);
     EXPECT_EQ(bar.value(), 0);
