@@ -191,7 +191,7 @@ double FormWindow::zoom_around(const QWidget* widget) {
 }
 
 void FormWindow::set_zoom(double zoom) {
-    if (zoom == scale_.zoom()) return;
+    if (zoom == scale_.zoom() || has_users_size()) return;
     const QPoint middle = frameGeometry().center();
     const QSize frame = frameGeometry().size() - size();
     scale_ = Scale(zoom);

@@ -35,8 +35,9 @@ public:
     const Scale& scale() const { return scale_; }
     // Of the window in which the widget stands, or in front of which; 1 without one.
     static double zoom_around(const QWidget* widget);
-    // Shows the form larger or smaller, about its middle.
+    // Shows the form larger or smaller, about its middle; nothing happens where the user has maximised the window.
     void set_zoom(double zoom);
+    bool has_users_size() const { return form_.is_sizable() && isMaximized(); }
     // The window stands on another screen, or its screen has another size: the form's own place there is where it is.
     void screen_changed();
     forms::Form& form() const { return form_; }

@@ -87,6 +87,7 @@ forms::Size QtHost::screen_size(const forms::Form& form) const {
 }
 
 void QtHost::change_zoom(FormWindow& window, Zooms::Step step) {
+    if (window.has_users_size()) return;
     zooms_.take(step, window.form(), largest_inner_area(*window.screen()));
     window.set_zoom(zoom_of(window.form()));
 }

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QPainter>
 #include <QStyleOption>
 #include <QToolTip>
 #include <algorithm>
@@ -23,6 +24,19 @@ constexpr double kTickToFont = 13.0 / 11;
 bool is_low_scroll_bar(QStyle::ComplexControl control, const QStyleOptionComplex& option) {
     return control == QStyle::CC_ScrollBar && option.rect.height() >= option.rect.width() &&
            option.rect.height() < kLowest * option.rect.width();
+}
+
+// Up or down, as large as its button lets it be; `way` is -1 or 1.
+void draw_arrow(QPainter& painter, const QRectF& button, int way, const QColor& colour) {
+    const double half = std::min(button.width() * 0.2, button.height() * 0.3);
+    const QPointF middle = button.center();
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour);
+    painter.drawPolygon(QPolygonF{middle + QPointF(-half, -way * half / 2), middle + QPointF(half, -way * half / 2),
+                                  middle + QPointF(0, way * half / 2)});
+    painter.restore();
 }
 
 }  // namespace
@@ -57,10 +71,8 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
         const bool pressed = option->activeSubControls == part && (option->state & State_Sunken);
         button.state = (option->state & (State_Enabled | State_MouseOver)) | (pressed ? State_Sunken : State_Raised);
         drawPrimitive(PE_PanelButtonCommand, &button, painter, widget);
-        QStyleOption arrow = button;
-        arrow.rect = button.rect.adjusted(2, 1, -2, -1);
-        drawPrimitive(part == SC_ScrollBarSubLine ? PE_IndicatorArrowUp : PE_IndicatorArrowDown, &arrow, painter,
-                      widget);
+        const QColor colour = option->palette.color(QPalette::ButtonText);
+        draw_arrow(*painter, QRectF(button.rect), part == SC_ScrollBarSubLine ? -1 : 1, colour);
     }
 }
 
@@ -74,7 +86,6 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
         case PM_ScrollBarExtent:
         case PM_ScrollBarSliderMin:
         case PM_TextCursorWidth:
-        case PM_MessageBoxIconSize:
             return std::max(1, static_cast<int>(std::lround(usual * FormWindow::zoom_around(widget))));
         default:
             return usual;

@@ -1,8 +1,13 @@
 #include <QAbstractButton>
+#include <QApplication>
 #include <QGroupBox>
+#include <QHelpEvent>
 #include <QListView>
+#include <QMessageBox>
 #include <QScreen>
 #include <QTableWidget>
+#include <QTimer>
+#include <QToolTip>
 #include <QWindow>
 #include <algorithm>
 
@@ -165,6 +170,16 @@ TEST_F(Sizes, OnTheOverviewZoomChangesPixelsAndOnlyTheUsersResizeItsTwips) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return window().width() < usual.width(); }));
     EXPECT_NE(twips(), before);
     EXPECT_NEAR(overview.Width, 0.8 * before.front(), 30);
+
+    window().showMaximized();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window().width() > 0.9 * window().screen()->availableSize().width(); }));
+    const std::vector<double> maximised = twips();
+    const QSize whole = window().size();
+    for (const auto step : {Qt::Key_Minus, Qt::Key_Plus, Qt::Key_0}) {
+        key(step, Qt::ControlModifier);
+        EXPECT_EQ(window().size(), whole);
+        EXPECT_EQ(twips(), maximised);
+    }
 }
 
 TEST_F(Sizes, TheUserMakesAScreenLargerAndSmallerAndItStaysSo) {
@@ -189,6 +204,38 @@ TEST_F(Sizes, TheUserMakesAScreenLargerAndSmallerAndItStaysSo) {
         key(Qt::Key_Plus, Qt::ControlModifier);
     EXPECT_GT(window().width(), usual);
     expect_whole();
+}
+
+TEST_F(Sizes, BoxesAndTipsAreAsLargeAsTheScreenInFrontOfWhichTheyStand) {
+    platform.real_boxes = true;
+    start_program();
+    auto& main = screen<library::frmTavrin01>();
+    click_line(main.lstSpellen, 0);
+    const int letters = widget(main.cmdWissen).font().pixelSize();
+    QTimer look;
+    look.callOnTimeout([&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box) return;
+        look.stop();
+        EXPECT_EQ(box->font().pixelSize(), letters);
+        EXPECT_GT(box->iconPixmap().deviceIndependentSize().height(), 3 * letters);
+        EXPECT_TRUE(window().screen()->availableGeometry().contains(box->geometry()));
+        box->reject();
+    });
+    look.start(10);
+    click(main.cmdWissen);
+    EXPECT_FALSE(look.isActive());
+
+    click(main.cmdKaartenEditor);
+    auto& editor = screen<annotate::frmTavrin05>();
+    click_line(editor.lstSpellen, "QVT_Spel 001");
+    QWidget& marker = widget(editor.picYesNo(0));
+    ASSERT_FALSE(marker.toolTip().isEmpty());
+    QHelpEvent rest(QEvent::ToolTip, marker.rect().center(), marker.mapToGlobal(marker.rect().center()));
+    QCoreApplication::sendEvent(&marker, &rest);
+    EXPECT_TRUE(QToolTip::isVisible());
+    EXPECT_EQ(QToolTip::font().pixelSize(), widget(editor.cmdToonSpel).font().pixelSize());
+    QToolTip::hideText();
 }
 
 TEST_F(Sizes, WhereTheSettingsCannotBeWrittenTheSizeHoldsForTheRun) {
