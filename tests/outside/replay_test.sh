@@ -18,7 +18,7 @@ mapfile -t stops < <(fold -bw532 "$files informatie.txt" | LC_ALL=C sed -n 's/^\
 
 # shows SUIT LEFT TOP: the corner of a card of that suit lies there.
 shows() {
-    local colours=($BLACK $RED $RED $BLACK) others=($RED $BLACK $BLACK $RED) white ink other
+    local colours=("$BLACK" "$RED" "$RED" "$BLACK") others=("$RED" "$BLACK" "$BLACK" "$RED") white ink other
     shares $(($2 + 75)) $(($3 + 105)) 345 375 $WHITE "${colours[$1]}" "${others[$1]}"
     read -r white ink other <<<"$watched"
     [ "$white" -gt 300 ] && [ "$ink" -gt $NONE ] && [ "$other" -le $NONE ]
