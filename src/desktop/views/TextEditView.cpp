@@ -1,8 +1,10 @@
 #include "desktop/views/TextEditView.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QMimeData>
 #include <QPainter>
 #include <QScrollBar>
+#include <QTextBlock>
 #include <QTextDocument>
 #include <algorithm>
 
@@ -36,7 +38,7 @@ private:
     void paintEvent(QPaintEvent* event) override {
         QTextEdit::paintEvent(event);
         const QScrollBar& bar = *verticalScrollBar();
-        if (bar.maximum() <= 0) return;
+        if (bar.maximum() <= 0 || (bar.value() == 0 && end_of_words() <= viewport()->height())) return;
         const double height = viewport()->height();
         const double whole = bar.maximum() + bar.pageStep();
         QColor mark = palette().color(QPalette::Text);
@@ -45,6 +47,13 @@ private:
         painter.fillRect(QRectF(viewport()->width() - (kMarkWidth + kMarkMargin) * zoom_, height * bar.value() / whole,
                                 kMarkWidth * zoom_, height * bar.pageStep() / whole),
                          mark);
+    }
+    // Empty lines behind the words are nothing that would have to be scrolled to.
+    double end_of_words() const {
+        QTextBlock block = document()->lastBlock();
+        while (block.previous().isValid() && block.text().trimmed().isEmpty())
+            block = block.previous();
+        return document()->documentLayout()->blockBoundingRect(block).bottom();
     }
     // The widget's own reading of a clipboard asks for the first of its formats, even where it has none.
     bool canInsertFromMimeData(const QMimeData* source) const override { return source && source->hasText(); }
