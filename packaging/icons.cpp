@@ -1,19 +1,22 @@
-// Paints the program's icon in all sizes of a desktop's icon theme.
-//   zandolin_icons FOLDER     FOLDER then has 16x16/apps/zandolin.png and the others
+// Paints the program's icon in all sizes of a desktop's icon theme, and writes it as a drawing for any size.
+//   zandolin_icons FOLDER     FOLDER then has 16x16/apps/zandolin.png, the others, and scalable/apps/zandolin.svg
 #include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 #include <QImage>
+#include <QTextStream>
 #include <algorithm>
 #include <cstdlib>
 #include <iostream>
 
+#include "desktop/Look.h"
 #include "desktop/PictureCache.h"
 #include "desktop/ProgramIcon.h"
 #include "resources/Icon.h"
 
 namespace {
 
-constexpr int kSizes[] = {16, 24, 32, 48, 64, 128, 256, 512};
+constexpr int kSizes[] = {16, 22, 24, 32, 36, 48, 64, 72, 96, 128, 192, 256, 512};
 constexpr int kLargest = 256;
 
 // A size that the group lacks is painted from its largest drawing.
@@ -21,6 +24,50 @@ QImage icon_of(int size) {
     const auto& drawn = resources::kIconSizes;
     if (std::ranges::find(drawn, size) != std::end(drawn)) return desktop::icon_image(size, resources::kIconDepths[1]);
     return desktop::PictureCache::render(resources::draw_icon(kLargest), QSize(size, size), 1).toImage();
+}
+
+QString colour_word(const std::optional<base::Colour>& colour) {
+    return colour ? desktop::colour(*colour).name() : QStringLiteral("none");
+}
+
+// The commands of an SVG path.
+QString path_words(const resources::drawing::Path& path) {
+    using Verb = resources::drawing::Path::Verb;
+    QString words;
+    QTextStream out(&words);
+    auto next = path.points().begin();
+    const auto point = [&] {
+        out << ' ' << next->x << ' ' << next->y;
+        ++next;
+    };
+    for (const Verb verb : path.verbs()) {
+        out << (verb == Verb::Move ? 'M' : verb == Verb::Line ? 'L' : verb == Verb::Cubic ? 'C' : 'Z');
+        const int points = verb == Verb::Cubic ? 3 : verb == Verb::Close ? 0 : 1;
+        for (int i = 0; i < points; ++i)
+            point();
+    }
+    return words;
+}
+
+bool write_svg(const QString& name) {
+    const resources::drawing::Drawing drawing = resources::draw_icon(kLargest);
+    QFile file(name);
+    if (!file.open(QIODevice::WriteOnly)) return false;
+    QTextStream out(&file);
+    out << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << kLargest << "\" height=\"" << kLargest
+        << "\" viewBox=\"0 0 " << drawing.width << ' ' << drawing.height
+        << "\" stroke-linecap=\"round\" stroke-linejoin=\"round\">\n";
+    for (const resources::drawing::Shape& shape : drawing.shapes) {
+        const bool even_odd = shape.rule == resources::drawing::FillRule::EvenOdd;
+        out << "<path fill=\"" << colour_word(shape.fill) << (even_odd ? "\" fill-rule=\"evenodd" : "") << '"';
+        if (shape.stroke)
+            out << " stroke=\"" << colour_word(shape.stroke->colour) << "\" stroke-width=\"" << shape.stroke->width
+                << '"';
+        out << " d=\"" << path_words(shape.path) << "\"/>\n";
+    }
+    out << "</svg>\n";
+    out.flush();
+    return file.error() == QFileDevice::NoError;
 }
 
 }  // namespace
@@ -32,12 +79,12 @@ int main(int argc, char** argv) {
         std::cerr << "usage: zandolin_icons FOLDER\n";
         return EXIT_FAILURE;
     }
+    bool written = QDir().mkpath(QStringLiteral("%1/scalable/apps").arg(argv[1])) &&
+                   write_svg(QStringLiteral("%1/scalable/apps/zandolin.svg").arg(argv[1]));
     for (const int size : kSizes) {
         const QString folder = QStringLiteral("%1/%2x%2/apps").arg(argv[1]).arg(size);
-        if (!QDir().mkpath(folder) || !icon_of(size).save(folder + "/zandolin.png")) {
-            std::cerr << "cannot write into " << folder.toStdString() << "\n";
-            return EXIT_FAILURE;
-        }
+        written = written && QDir().mkpath(folder) && icon_of(size).save(folder + "/zandolin.png");
     }
-    return EXIT_SUCCESS;
+    if (!written) std::cerr << "cannot write into " << argv[1] << "\n";
+    return written ? EXIT_SUCCESS : EXIT_FAILURE;
 }

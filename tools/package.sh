@@ -45,6 +45,10 @@ portable() {
         mkdir -p "$folder/lib/plugins/$(dirname "$plugin")"
         cp -r "$qt/$plugin" "$folder/lib/plugins/$(dirname "$plugin")/"
     done
+    # The letters, for a system that has neither Verdana nor these.
+    mkdir -p "$folder/lib/fonts"
+    cp /usr/share/fonts/truetype/dejavu/DejaVuSans{,-Bold}.ttf "$folder/lib/fonts/"
+    terms /usr/share/fonts/truetype/dejavu/DejaVuSans.ttf
     while read -r library; do
         cp -L "$library" "$folder/lib/"
         terms "$library"

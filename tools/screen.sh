@@ -5,6 +5,7 @@
 
 processes=()
 trap '[ ${#processes[@]} -eq 0 ] || kill "${processes[@]}" 2>/dev/null || true' EXIT
+export MAGICK_THREAD_LIMIT=1  # more of them only wait for each other on small pictures
 readonly LIMIT=60  # seconds that anything may take on a busy machine
 
 # What was on the screen when something did not come.
@@ -62,31 +63,24 @@ down() {
     echo $((origin_y + $1 * pixels / twips))
 }
 
-shown() {
-    xwd -root -silent | md5sum
+# What is on the screen is seen by a program beside this one: `watch COMMAND` leaves its answer in `watched`.
+coproc screen_watch { exec "$(dirname "${BASH_SOURCE[0]}")/screen_watch.py"; }
+exec {watch_answers}<&"${screen_watch[0]}" {watch_commands}>&"${screen_watch[1]}"
+watch() {
+    watched=no
+    echo "$*" >&"$watch_commands"
+    read -r -t $((2 * LIMIT)) watched <&"$watch_answers" || true
+    [ "$watched" = yes ]
 }
-# Waits until nothing has changed on the screen for so many milliseconds, 200 without a number.
+# Waits until nothing was drawn on the screen for so many milliseconds, 100 without a number.
 settled() {
-    local quiet=${1:-200} before now since end=$((SECONDS + LIMIT))
-    before=$(shown)
-    since=$(date +%s%3N)
-    while [ $(($(date +%s%3N) - since)) -lt "$quiet" ]; do
-        [ $SECONDS -lt $end ] || give_up "the screen does not come to rest"
-        sleep 0.02
-        now=$(shown)
-        [ "$now" = "$before" ] || since=$(date +%s%3N)
-        before=$now
-    done
+    watch rest "${1:-100}" $LIMIT || give_up "the screen does not come to rest"
 }
-# answers COMMAND...: does it, and waits until the screen has changed.
+# answers COMMAND...: does it, and waits until something is drawn.
 answers() {
-    local before end=$((SECONDS + LIMIT))
-    before=$(shown)
+    watch mark
     "$@"
-    while [ "$(shown)" = "$before" ]; do
-        [ $SECONDS -lt $end ] || give_up "nothing changes after: $*"
-        sleep 0.02
-    done
+    watch change $LIMIT || give_up "nothing changes after: $*"
 }
 # The same, and waits until it has come to rest.
 changes() {

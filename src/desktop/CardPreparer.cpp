@@ -1,7 +1,5 @@
 #include "desktop/CardPreparer.h"
 
-#include <QGuiApplication>
-
 #include "desktop/QtHost.h"
 #include "resources/Plaatje.h"
 
@@ -21,7 +19,7 @@ CardPreparer::CardPreparer(QtHost& host) : host_(host), next_(kLast) {
 
 void CardPreparer::prepare_next() {
     const forms::Picture picture{next_, {}};
-    const double ratio = qGuiApp->devicePixelRatio();
+    const double ratio = host_.next_screen().devicePixelRatio();
     const QSizeF size = host_.pictures().size_of(picture) * host_.table_zoom() * ratio;
     host_.pictures().pixmap(picture, size.toSize(), ratio);
     if (--next_ < kFirst) stop();

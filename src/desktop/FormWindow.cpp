@@ -3,6 +3,8 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QScreen>
+#include <QWindow>
 #include <algorithm>
 
 #include "desktop/QtHost.h"
@@ -21,6 +23,7 @@ namespace {
 constexpr QSize kLeastSize{480, 320};  // of the table that is not maximised
 // A window manager gives a maximised window a few pixels more or fewer than the display has without a title.
 constexpr double kNearly = 0.99;
+constexpr int kRestMilliseconds = 150;
 
 }  // namespace
 
@@ -30,6 +33,12 @@ FormWindow::FormWindow(QtHost& host, forms::Form& form) : host_(host), form_(for
     if (form.is_sizable()) flags |= Qt::WindowMaximizeButtonHint;
     setWindowFlags(flags);
     setAutoFillBackground(true);
+    setScreen(&host.next_screen());
+    at_rest_.setSingleShot(true);
+    at_rest_.setInterval(kRestMilliseconds);
+    at_rest_.callOnTimeout([this] {
+        if (!retired_) set_zoom(zooms_along() ? zoom_for_size() : host_.zoom_of(form_));
+    });
     for (forms::Control* control : form.controls()) {
         if (auto* timer = dynamic_cast<forms::Timer*>(control)) show_timer(*timer);
     }
@@ -152,7 +161,7 @@ void FormWindow::show_pointer() {
 }
 
 QRect FormWindow::form_place() const {
-    const QPoint corner = host_.screen_corner();
+    const QPoint corner = screen()->availableGeometry().topLeft();
     return {scale_.pixels(form_.Left) + corner.x(), scale_.pixels(form_.Top) + corner.y(), scale_.pixels(form_.Width),
             scale_.pixels(form_.Height)};
 }
@@ -174,8 +183,15 @@ double FormWindow::zoom_for_size() const {
     return fitting > usual * kNearly ? usual : fitting;
 }
 
+double FormWindow::zoom_around(const QWidget* widget) {
+    for (; widget; widget = widget->parentWidget()) {
+        if (const auto* window = dynamic_cast<const FormWindow*>(widget)) return window->scale().zoom();
+    }
+    return 1;
+}
+
 void FormWindow::set_zoom(double zoom) {
-    if (zoom == scale_.zoom()) return;
+    if (zoom == scale_.zoom() || has_users_size()) return;
     const QPoint middle = frameGeometry().center();
     const QSize frame = frameGeometry().size() - size();
     scale_ = Scale(zoom);
@@ -183,13 +199,18 @@ void FormWindow::set_zoom(double zoom) {
         shown_place_ = form_place();
         QRect place({}, shown_place_.size() + frame);
         place.moveCenter(middle);
-        move(host_.nearest_place(place.topLeft(), shown_place_.size()));
+        move(host_.nearest_place(*screen(), place.topLeft(), shown_place_.size()));
         form_.is_sizable() ? resize(shown_place_.size()) : setFixedSize(shown_place_.size());
     }
     place_canvas();
     for (const auto& [control, shown] : views_)
         shown->refresh();
     keyboard_.show_mark();
+}
+
+void FormWindow::screen_changed() {
+    shown_place_ = form_place();
+    at_rest_.start();
 }
 
 // Where the form did not move, the window stays where the user put it.
@@ -210,7 +231,10 @@ void FormWindow::show_place() {
         setMinimumSize(kLeastSize);
         setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
         // Nearly what the window manager is about to give it, so that it need not be painted twice.
-        if (isHidden()) resize(place.size());
+        if (isHidden()) {
+            move(place.topLeft());
+            resize(place.size());
+        }
     }
     if (!form_.Visible()) return hide();
     if (!state_changed) return;
@@ -263,6 +287,18 @@ bool FormWindow::event(QEvent* event) {
 void FormWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     act([this] { forms::user::close(form_); });
+}
+
+void FormWindow::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    disconnect(follows_screen_);
+    follows_screen_ = connect(windowHandle(), &QWindow::screenChanged, this, [this] { screen_changed(); });
+}
+
+// While a window is dragged from screen to screen its size stays.
+void FormWindow::moveEvent(QMoveEvent* event) {
+    QWidget::moveEvent(event);
+    if (at_rest_.isActive()) at_rest_.start();
 }
 
 void FormWindow::resizeEvent(QResizeEvent* event) {

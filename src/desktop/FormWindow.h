@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringList>
+#include <QTimer>
 #include <QWidget>
 #include <functional>
 #include <memory>
@@ -32,8 +33,13 @@ public:
 
     QtHost& host() const { return host_; }
     const Scale& scale() const { return scale_; }
-    // Shows the form larger or smaller, about its middle.
+    // Of the window in which the widget stands, or in front of which; 1 without one.
+    static double zoom_around(const QWidget* widget);
+    // Shows the form larger or smaller, about its middle; nothing happens where the user has maximised the window.
     void set_zoom(double zoom);
+    bool has_users_size() const { return form_.is_sizable() && isMaximized(); }
+    // The window stands on another screen, or its screen has another size: the form's own place there is where it is.
+    void screen_changed();
     forms::Form& form() const { return form_; }
 
     // Brings the window up to the form.
@@ -58,6 +64,8 @@ public:
 protected:
     bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
@@ -88,6 +96,8 @@ private:
     std::unordered_map<const forms::Control*, std::unique_ptr<views::View>> views_;
     std::unordered_map<const forms::Timer*, std::unique_ptr<Ticker>> tickers_;
     QStringList to_say_;  // while the window is brought up to the form, and the keyboard with it
+    QTimer at_rest_;      // its timeout comes when the window, moved to another screen, has stood still for a moment
+    QMetaObject::Connection follows_screen_;
     QRect shown_place_;
     forms::MousePointer shown_pointer_ = forms::MousePointer::Default;
     forms::WindowState shown_state_ = forms::WindowState::Normal;

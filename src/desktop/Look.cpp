@@ -1,5 +1,7 @@
 #include "desktop/Look.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <cmath>
@@ -14,9 +16,23 @@ namespace {
 
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
 
+// A portable copy brings fonts for a machine that has neither.
+void add_own_fonts() {
+    const QDir fonts(QCoreApplication::applicationDirPath() + QStringLiteral("/lib/fonts"));
+    for (const QString& name : fonts.entryList({QStringLiteral("*.ttf")}, QDir::Files))
+        QFontDatabase::addApplicationFont(fonts.filePath(name));
+}
+
+QString found_family() {
+    for (const QString& name : {QStringLiteral("Verdana"), QStringLiteral("DejaVu Sans")}) {
+        if (QFontDatabase::hasFamily(name)) return name;
+    }
+    add_own_fonts();
+    return QStringLiteral("DejaVu Sans");
+}
+
 const QString& family() {
-    static const QString name =
-        QFontDatabase::hasFamily(QStringLiteral("Verdana")) ? QStringLiteral("Verdana") : QStringLiteral("DejaVu Sans");
+    static const QString name = found_family();
     return name;
 }
 

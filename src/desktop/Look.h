@@ -29,6 +29,9 @@ private:
 
 QColor colour(base::Colour colour);
 
+// The size of words that no control gives: in message boxes and beside the pointer.
+inline constexpr double kUsualPoints = 8.25;
+
 // Verdana where it is installed, otherwise DejaVu Sans; sized as at 96 dpi whatever the screen's own value is.
 QFont screen_font(double points, bool bold, double zoom);
 QFont screen_font(const forms::Control& control, double zoom);

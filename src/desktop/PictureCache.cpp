@@ -78,10 +78,12 @@ QSizeF PictureCache::size_of(const forms::Picture& picture) {
 QPixmap PictureCache::pixmap(const forms::Picture& picture, const QSize& physical, double pixel_ratio) {
     const resources::drawing::Drawing* drawing = drawing_of(picture);
     if (!drawing || physical.isEmpty()) return {};
-    const Key key{picture.number, picture.name, physical.width(), physical.height(), pixel_ratio};
-    const auto found = pixmaps_.find(key);
-    if (found != pixmaps_.end()) return found->second;
-    return pixmaps_[key] = render(*drawing, physical, pixel_ratio);
+    const Key key{picture, physical, pixel_ratio};
+    if (const QPixmap* known = pixmaps_.object(key)) return *known;
+    const QPixmap made = render(*drawing, physical, pixel_ratio);
+    const qsizetype bytes = qsizetype{physical.width()} * physical.height() * made.depth() / 8;
+    pixmaps_.insert(key, new QPixmap(made), bytes);
+    return made;
 }
 
 QPixmap PictureCache::render(const resources::drawing::Drawing& drawing, const QSize& physical, double pixel_ratio) {

@@ -1,9 +1,9 @@
 #include "desktop/QtHost.h"
 
 #include <QCoreApplication>
+#include <QCursor>
 #include <QEvent>
 #include <QGuiApplication>
-#include <QScreen>
 #include <algorithm>
 #include <exception>
 #include <utility>
@@ -20,12 +20,19 @@ constexpr QSize kUsualFrame{2, 30};
 // How long a window manager may take to activate the window that was asked for.
 constexpr int kActivationMilliseconds = 1000;
 
-QRect usable_screen() { return QGuiApplication::primaryScreen()->availableGeometry(); }
+QScreen* screen_of_pointer() {
+    QScreen* there = QGuiApplication::screenAt(QCursor::pos());
+    return there ? there : QGuiApplication::primaryScreen();
+}
 
 }  // namespace
 
-QtHost::QtHost(std::optional<double> zoom) : zooms_(zoom), frame_(kUsualFrame) {
+QtHost::QtHost(std::optional<double> zoom) : zooms_(zoom), screen_(screen_of_pointer()), frame_(kUsualFrame) {
     first_painted_.setSingleShot(true);
+    for (const QScreen* screen : QGuiApplication::screens())
+        follow_screen(*screen);
+    QObject::connect(qGuiApp, &QGuiApplication::screenAdded, &first_painted_,
+                     [this](const QScreen* screen) { follow_screen(*screen); });
     input_.Changed = [this] {
         for (const auto& [form, window] : form_windows_)
             window->keyboard().show_mark();
@@ -42,27 +49,46 @@ QtHost::~QtHost() {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-QPoint QtHost::screen_corner() const { return usable_screen().topLeft(); }
+void QtHost::follow_screen(const QScreen& screen) {
+    QObject::connect(&screen, &QScreen::availableGeometryChanged, &first_painted_, [this, &screen] {
+        for (const auto& [form, window] : form_windows_) {
+            if (window->screen() == &screen) window->screen_changed();
+        }
+    });
+}
 
-QSize QtHost::largest_inner_area() const { return usable_screen().size() - frame_; }
+QScreen& QtHost::next_screen() const {
+    if (raised_) return *raised_->screen();
+    return screen_ ? *screen_ : *QGuiApplication::primaryScreen();
+}
 
-QPoint QtHost::nearest_place(const QPoint& corner, const QSize& inner) const {
-    const QRect screen = usable_screen();
-    const QPoint last =
-        screen.bottomRight() + QPoint(1, 1) - QPoint((inner + frame_).width(), (inner + frame_).height());
-    return {std::max(screen.left(), std::min(corner.x(), last.x())),
-            std::max(screen.top(), std::min(corner.y(), last.y()))};
+const QScreen& QtHost::screen_of(const forms::Form& form) const {
+    const FormWindow* shown = window(&form);
+    return shown ? *shown->screen() : next_screen();
+}
+
+QSize QtHost::largest_inner_area(const QScreen& screen) const { return screen.availableSize() - frame_; }
+
+double QtHost::zoom_of(const forms::Form& form) const { return zooms_.of(form, largest_inner_area(screen_of(form))); }
+double QtHost::table_zoom() const { return zooms_.of_table(largest_inner_area(next_screen())); }
+
+QPoint QtHost::nearest_place(const QScreen& screen, const QPoint& corner, const QSize& inner) const {
+    const QRect room = screen.availableGeometry();
+    const QPoint last = room.bottomRight() + QPoint(1, 1) - QPoint((inner + frame_).width(), (inner + frame_).height());
+    return {std::max(room.left(), std::min(corner.x(), last.x())),
+            std::max(room.top(), std::min(corner.y(), last.y()))};
 }
 
 // Without the title, so that a maximised form has the size that it is told.
 forms::Size QtHost::screen_size(const forms::Form& form) const {
     const Scale scale(zoom_of(form));
-    const QSize inner = largest_inner_area();
+    const QSize inner = largest_inner_area(screen_of(form));
     return {scale.twips(inner.width()), scale.twips(inner.height())};
 }
 
 void QtHost::change_zoom(FormWindow& window, Zooms::Step step) {
-    zooms_.take(step, window.form(), largest_inner_area());
+    if (window.has_users_size()) return;
+    zooms_.take(step, window.form(), largest_inner_area(*window.screen()));
     window.set_zoom(zoom_of(window.form()));
 }
 
@@ -120,7 +146,10 @@ void QtHost::repaint(forms::Form& form) {
 void QtHost::closing(forms::Form& form) {
     const auto found = form_windows_.find(&form);
     if (found == form_windows_.end()) return;
-    if (raised_ == found->second.get()) raised_ = nullptr;
+    if (raised_ == found->second.get()) {
+        screen_ = raised_->screen();
+        raised_ = nullptr;
+    }
     if (repainted_ == &form) repainted_ = nullptr;
     found->second->retire();
     retired_.push_back(std::move(found->second));

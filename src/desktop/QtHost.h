@@ -2,6 +2,8 @@
 
 #include <QElapsedTimer>
 #include <QPoint>
+#include <QPointer>
+#include <QScreen>
 #include <QTimer>
 #include <functional>
 #include <future>
@@ -52,14 +54,15 @@ public:
 
     Zooms& zooms() { return zooms_; }
     // How large a form is shown, and the cards of the table.
-    double zoom_of(const forms::Form& form) const { return zooms_.of(form, largest_inner_area()); }
-    double table_zoom() const { return zooms_.of_table(largest_inner_area()); }
+    double zoom_of(const forms::Form& form) const;
+    double table_zoom() const;
     void change_zoom(FormWindow& window, Zooms::Step step);
     PictureCache& pictures() { return pictures_; }
     const keys::InputWatch& input() const { return input_; }
-    QPoint screen_corner() const;  // of the part of the screen that windows may use
+    // Where a new window goes: to the screen of the one that the user worked in last, at first to that of the pointer.
+    QScreen& next_screen() const;
     // Where a window of that inner size stands wholly on the screen, as near as can be to a corner for its frame.
-    QPoint nearest_place(const QPoint& corner, const QSize& inner) const;
+    QPoint nearest_place(const QScreen& screen, const QPoint& corner, const QSize& inner) const;
 
     // Runs what the user did. Nothing happens while an event is running.
     void act(const std::function<void()>& event);
@@ -86,7 +89,9 @@ private:
     };
     using OwnedWindow = std::unique_ptr<FormWindow, DeleteLater>;
 
-    QSize largest_inner_area() const;  // of a window with its title, logical pixels
+    QSize largest_inner_area(const QScreen& screen) const;  // of a window with its title, logical pixels
+    const QScreen& screen_of(const forms::Form& form) const;
+    void follow_screen(const QScreen& screen);
     void raise_active();
     void close_retired();
 
@@ -99,6 +104,7 @@ private:
     std::unordered_map<const forms::Form*, OwnedWindow> form_windows_;
     std::vector<OwnedWindow> retired_;  // of forms that are gone, as long as they are seen
     FormWindow* raised_ = nullptr;
+    QPointer<QScreen> screen_;  // of the window that was raised before
     QElapsedTimer raised_since_;
     const forms::Form* repainted_ = nullptr;  // the form that asked for it last
     QElapsedTimer repainted_since_;

@@ -1,10 +1,15 @@
 #include "desktop/Style.h"
 
+#include <QApplication>
 #include <QCheckBox>
+#include <QPainter>
 #include <QStyleOption>
+#include <QToolTip>
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/Colours.h"
+#include "desktop/FormWindow.h"
 #include "desktop/Look.h"
 
 namespace desktop {
@@ -19,6 +24,19 @@ constexpr double kTickToFont = 13.0 / 11;
 bool is_low_scroll_bar(QStyle::ComplexControl control, const QStyleOptionComplex& option) {
     return control == QStyle::CC_ScrollBar && option.rect.height() >= option.rect.width() &&
            option.rect.height() < kLowest * option.rect.width();
+}
+
+// Up or down, as large as its button lets it be; `way` is -1 or 1.
+void draw_arrow(QPainter& painter, const QRectF& button, int way, const QColor& colour) {
+    const double half = std::min(button.width() * 0.2, button.height() * 0.3);
+    const QPointF middle = button.center();
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour);
+    painter.drawPolygon(QPolygonF{middle + QPointF(-half, -way * half / 2), middle + QPointF(half, -way * half / 2),
+                                  middle + QPointF(0, way * half / 2)});
+    painter.restore();
 }
 
 }  // namespace
@@ -53,29 +71,46 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
         const bool pressed = option->activeSubControls == part && (option->state & State_Sunken);
         button.state = (option->state & (State_Enabled | State_MouseOver)) | (pressed ? State_Sunken : State_Raised);
         drawPrimitive(PE_PanelButtonCommand, &button, painter, widget);
-        QStyleOption arrow = button;
-        arrow.rect = button.rect.adjusted(2, 1, -2, -1);
-        drawPrimitive(part == SC_ScrollBarSubLine ? PE_IndicatorArrowUp : PE_IndicatorArrowDown, &arrow, painter,
-                      widget);
+        const QColor colour = option->palette.color(QPalette::ButtonText);
+        draw_arrow(*painter, QRectF(button.rect), part == SC_ScrollBarSubLine ? -1 : 1, colour);
     }
 }
 
 int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
-    const bool tick = metric == PM_IndicatorWidth || metric == PM_IndicatorHeight;
-    if (!tick || !qobject_cast<const QCheckBox*>(widget)) return QProxyStyle::pixelMetric(metric, option, widget);
-    return std::min(static_cast<int>(std::lround(widget->font().pixelSize() * kTickToFont)), widget->height());
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    switch (metric) {
+        case PM_IndicatorWidth:
+        case PM_IndicatorHeight:
+            if (!qobject_cast<const QCheckBox*>(widget)) return usual;
+            return std::min(static_cast<int>(std::lround(widget->font().pixelSize() * kTickToFont)), widget->height());
+        case PM_ScrollBarExtent:
+        case PM_ScrollBarSliderMin:
+        case PM_TextCursorWidth:
+            return std::max(1, static_cast<int>(std::lround(usual * FormWindow::zoom_around(widget))));
+        default:
+            return usual;
+    }
+}
+
+void Style::use() {
+    QApplication::setStyle(new Style);
+    QApplication::setPalette(colours());
+    QToolTip::setPalette(colours());
 }
 
 QPalette Style::colours() {
     QPalette palette(colour(forms::kFaceColour));
-    palette.setColor(QPalette::Base, colour(forms::kWindowColour));
-    const QColor selected(0x1F, 0x5F, 0xA8);
-    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
-        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-            palette.setColor(group, role, colour(forms::kTextColour));
-        }
-        palette.setColor(group, QPalette::Highlight, selected);
-        palette.setColor(group, QPalette::HighlightedText, Qt::white);
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        const QColor words = group == QPalette::Disabled ? colours::kDisabledWords : colour(forms::kTextColour);
+        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+            palette.setColor(group, role, words);
+        palette.setColor(group, QPalette::PlaceholderText, colours::kDisabledWords);
+        palette.setColor(group, QPalette::Base,
+                         colour(group == QPalette::Disabled ? forms::kFaceColour : forms::kWindowColour));
+        palette.setColor(group, QPalette::Highlight, colours::kSelection);
+        palette.setColor(group, QPalette::HighlightedText, colours::kSelectedWords);
+        palette.setColor(group, QPalette::ToolTipBase, colours::kTip);
+        palette.setColor(group, QPalette::ToolTipText, colours::kTipWords);
     }
     return palette;
 }

@@ -15,10 +15,11 @@ public:
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
 
-    // A tick is never higher than its box.
+    // A tick is never higher than its box. What the screens' own sizes do not tell grows with their zoom.
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
 
-    // The colours of the program, whatever the desktop's own are.
+    // Gives the application this style and its colours, whatever the desktop's own are.
+    static void use();
     static QPalette colours();
 };
 

@@ -47,6 +47,7 @@ double Zooms::of(const forms::Form& form, const QSize& room) const {
 }
 
 int Zooms::percent_of(const forms::Form& form) const {
+    if (const auto chosen = chosen_.find(form.name()); chosen != chosen_.end()) return chosen->second;
     if (file_.empty()) return kUsual;
     try {
         const int kept = base::numeric_value(platform::read_setting(file_, kSection, form.name()));
@@ -64,10 +65,12 @@ void Zooms::take(Step step, const forms::Form& form, const QSize& room) {
         const double most = form.name() == kTable ? 1 : fitting(form, room) / comfortable(room);
         wanted = now >= most * kUsual ? now : std::min(kLargest, now + kStep);
     }
-    if (wanted == now || file_.empty()) return;
+    if (wanted == now) return;
+    chosen_[form.name()] = wanted;
+    if (file_.empty()) return;
     try {
         platform::write_setting(file_, kSection, form.name(), std::to_string(wanted));
-    } catch (const std::exception&) {  // The size then is the usual one.
+    } catch (const std::exception&) {  // The next run then begins with the size that was kept before.
     }
 }
 

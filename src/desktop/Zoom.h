@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QSize>
+#include <map>
 #include <optional>
 #include <string>
 
@@ -15,7 +16,8 @@ public:
     // for the display, times what the user chose for it; never larger than fits.
     explicit Zooms(std::optional<double> given) : given_(given) {}
 
-    // The user's choices are read from that file, and kept in it; a file that cannot be written is no failure.
+    // The user's choices are read from that file, and kept in it; where it cannot be written they hold for
+    // this run.
     void keep_in(const std::string& settings_file) { file_ = settings_file; }
 
     // `room` is the largest inner area of a window, logical pixels.
@@ -31,6 +33,7 @@ private:
 
     const std::optional<double> given_;
     std::string file_;
+    std::map<std::string, int> chosen_;  // percent by the names of forms, in this run
 };
 
 }  // namespace desktop

@@ -58,9 +58,8 @@ void end_by_failure(const std::string& what) {
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    QApplication::setStyle(new desktop::Style);
+    desktop::Style::use();
     desktop::describe_widgets();
-    QApplication::setPalette(desktop::Style::colours());
     QApplication::setApplicationName(desktop::words::kProgram);
     QApplication::setDesktopFileName(QStringLiteral("zandolin"));
     QApplication::setQuitOnLastWindowClosed(false);
@@ -68,9 +67,8 @@ int main(int argc, char** argv) {
     const std::optional<std::string> folder = folder_or_box(application);
     if (!folder) return EXIT_FAILURE;
     desktop::QtHost host;
-    QObject::connect(&host.first_painted(), &QTimer::timeout, [] {
-        QApplication::setWindowIcon(desktop::program_icon(QGuiApplication::primaryScreen()->depth()));
-    });
+    QObject::connect(&host.first_painted(), &QTimer::timeout,
+                     [&host] { QApplication::setWindowIcon(desktop::program_icon(host.next_screen().depth())); });
     const desktop::CardPreparer preparer(host);
     desktop::system::QtPlatform platform(host, *folder, services::settings_file(*folder));
     host.zooms().keep_in(services::settings_file(*folder));

@@ -3,7 +3,7 @@
 #include "base/Colour.h"
 
 // The colours of the screens. Those of the cards' state in the preparation stand with their meaning in
-// prepare/KaartLabels.h, those of widgets in desktop/Style.
+// prepare/KaartLabels.h, those of widgets in desktop/Colours.h.
 namespace services::kleuren {
 
 inline constexpr base::Colour kZwart{0};

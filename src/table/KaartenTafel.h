@@ -21,6 +21,8 @@ void OostStartPositie(frmTavrin02& tafel);
 void ZuidStartPositie(frmTavrin02& tafel);
 void WestStartPositie(frmTavrin02& tafel);
 void OverigeStartPositie(frmTavrin02& tafel);
+// Writes the seats' names on the felt, beside where the cards then lie.
+void schrijf_plaatsnamen(frmTavrin02& tafel);
 
 // Shows a hand in full, sorted by suit.
 void NoordZijnKaarten(frmTavrin02& tafel);

@@ -1,4 +1,7 @@
 // The places of the hands, closed and open, and of the information beside them.
+
+#include <algorithm>
+
 #include "platform/Files.h"
 #include "services/Bas_Aftavrin.h"
 #include "table/KaartenTafel.h"
@@ -106,23 +109,6 @@ void zet_gespeelde_plekken(frmTavrin02& tafel) {
         picPlay(plaats).Visible = true;
 }
 
-// The seats' names stand on the felt, in the four corners that the places of the cards played leave free: each beside
-// its own place, one after the other round the table.
-void schrijf_plaatsnamen(frmTavrin02& tafel) {
-    const forms::PictureBox& noord = tafel.picPlay(cards::kNoord);
-    const forms::PictureBox& oost = tafel.picPlay(cards::kOost);
-    const forms::PictureBox& zuid = tafel.picPlay(cards::kZuid);
-    const forms::PictureBox& west = tafel.picPlay(cards::kWest);
-    const double breedte = noord.Width;
-    const auto naam = [&](int plaats, double left, double top) {
-        return forms::PictureBox::Inscription{tafel.LeesResString(cards::bericht_van_plaats(plaats)),
-                                              {left, top, breedte, kNaamHoogte}};
-    };
-    tafel.picBack.inscribe({naam(cards::kNoord, noord.right(), noord.Top), naam(cards::kOost, oost.Left, oost.bottom()),
-                            naam(cards::kZuid, zuid.Left - breedte, zuid.bottom() - kNaamHoogte),
-                            naam(cards::kWest, west.Left, west.Top - kNaamHoogte)});
-}
-
 void toon_nummer(frmTavrin02& tafel) {
     services::Gedeeld& gedeeld = tafel.gedeeld;
     gedeeld.delen = base::split(gedeeld.spelNaam, " ");
@@ -198,6 +184,28 @@ void OostStartPositie(frmTavrin02& tafel) {
 void WestStartPositie(frmTavrin02& tafel) {
     tafel.Foutpad("Kaarten - General - WestStartPositie",
                   [&] { leg_blok(tafel, cards::kWest, tafel.gedeeld.westLinks, tafel.gedeeld.westBoven); });
+}
+
+// The seats' names stand on the felt, in the four corners that the places of the cards played leave free: each beside
+// its own place, one after the other round the table; Oost's goes out of the way of a hand that lies further left.
+void schrijf_plaatsnamen(frmTavrin02& tafel) {
+    const forms::PictureBox& noord = tafel.picPlay(cards::kNoord);
+    const forms::PictureBox& oost = tafel.picPlay(cards::kOost);
+    const forms::PictureBox& zuid = tafel.picPlay(cards::kZuid);
+    const forms::PictureBox& west = tafel.picPlay(cards::kWest);
+    const double breedte = noord.Width;
+    double oost_links = oost.Left + breedte;
+    tafel.picKaart(cards::kOost).each([&](const forms::PictureBox& kaart) {
+        oost_links = std::min(oost_links, kaart.Left());
+    });
+    const auto naam = [&](int plaats, double left, double top) {
+        return forms::PictureBox::Inscription{tafel.LeesResString(cards::bericht_van_plaats(plaats)),
+                                              {left, top, breedte, kNaamHoogte}};
+    };
+    tafel.picBack.inscribe({naam(cards::kNoord, noord.right(), noord.Top),
+                            naam(cards::kOost, oost_links - breedte, oost.bottom()),
+                            naam(cards::kZuid, zuid.Left - breedte, zuid.bottom() - kNaamHoogte),
+                            naam(cards::kWest, west.Left, west.Top - kNaamHoogte)});
 }
 
 void OverigeStartPositie(frmTavrin02& tafel) {

@@ -387,6 +387,7 @@ void frmTavrin02::open_alle_handen() {
     Kaarten::OostZijnKaarten(*this);
     Kaarten::ZuidZijnKaarten(*this);
     Kaarten::WestZijnKaarten(*this);
+    Kaarten::schrijf_plaatsnamen(*this);
 }
 
 void frmTavrin02::vscrSnelHeid_Change() {

@@ -37,6 +37,7 @@ TEST_F(Spoken, TheTableNamesItsSymbolsAndWhoPlaysWhat) {
     auto& table = screen<table::frmTavrin02>();
     EXPECT_EQ(name(table.lblContractWie) + " " + name(table.picContract), "Zuid: 4 Harten");
     EXPECT_EQ(name(table.txtSnelHeid), "Afspeelsnelheid:");
+    EXPECT_EQ(name(table.txtVraag), "Vraag");
     EXPECT_TRUE(is_silent(table.cmdFocus));
     EXPECT_TRUE(is_silent(table.picPlay(cards::kWest))) << "nothing lies there yet";
     EXPECT_EQ(reader(table.picKaart(cards::kNoord)(1)).role(), QAccessible::Graphic);
@@ -45,6 +46,7 @@ TEST_F(Spoken, TheTableNamesItsSymbolsAndWhoPlaysWhat) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return table.cmdVerder.Visible(); }, 20000));
     EXPECT_NE(said().find("West legt ruitenaas op tafel"), std::string::npos) << said();
     EXPECT_NE(name(table.picPlay(cards::kWest)).find("West: "), std::string::npos);
+    EXPECT_EQ(name(table.txtInformatie), "Tekst bij de kaart");
     accelerator(table.cmdVerder);
     const std::string before = said();
     ASSERT_TRUE(QTest::qWaitFor([&] { return said() != before; }, 5000));
@@ -72,6 +74,10 @@ TEST_F(Spoken, TheEditorNamesNumbersWithTheirStateAndTheOverviewTheSeats) {
     EXPECT_EQ(reader(editor.picYesNo(3)).role(), QAccessible::Button);
     reader(editor.picYesNo(3)).actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_EQ(name(editor.picYesNo(3)), "Nummer 4, wordt geschreven");
+    EXPECT_EQ(name(editor.txtInformatie), "Bijschrift kaarten");
+    click(editor.cmdVoorBeeld);
+    EXPECT_EQ(name(editor.txtVoorbeeld), "Voorbeeld van de tekst");
+    click(editor.cmdSluiten);
 
     click(editor.cmdToonSpel);
     auto& overview = screen<annotate::frmTavrin06>();
@@ -85,6 +91,9 @@ TEST_F(Spoken, TheCursorSaysWhatItStandsOn) {
     click(screen<library::frmTavrin01>().cmdNieuwSpel);
     auto& preparation = screen<prepare::frmTavrin03>();
     click_line(preparation.lstRVLX, "Spel 001");
+    EXPECT_EQ(name(preparation.txtVraag), "Vraag");
+    EXPECT_EQ(name(preparation.txtAntwoord), "Antwoord");
+    EXPECT_EQ(name(preparation.msfgTavrin), "Gespeelde slagen");
     const forms::Frame& hand = preparation.labels.fra(cards::kWest);
     const auto under_cursor = [&] {
         for (const cards::Kleur suit : cards::kKleuren) {

@@ -121,8 +121,9 @@ void RealProgram::tab_to(const forms::Control& control) {
 QRect RealProgram::marked() {
     QCoreApplication::processEvents();
     for (const QWidget* child : window().findChildren<QWidget*>()) {
-        if (!dynamic_cast<const desktop::keys::FocusMark*>(child) || !child->isVisible()) continue;
-        return QRect(child->mapTo(&window(), QPoint()), child->size()).adjusted(3, 3, -3, -3);
+        const auto* mark = dynamic_cast<const desktop::keys::FocusMark*>(child);
+        if (!mark || !mark->isVisible()) continue;
+        return mark->place().translated(mark->parentWidget()->mapTo(&window(), QPoint()));
     }
     return {};
 }

@@ -1,11 +1,15 @@
 #include "desktop/ThroughTheScreens.h"
 
+#include <filesystem>
+
 #include "annotate/frmTavrin05.h"
 #include "annotate/frmTavrin06.h"
+#include "forms/User.h"
 #include "library/frmTavrin01.h"
 #include "library/frmTavrin04.h"
 #include "library/frmTavrin07.h"
 #include "prepare/frmTavrin03.h"
+#include "services/frmTavrin08.h"
 #include "table/frmTavrin02.h"
 
 void ThroughTheScreens::through_the_screens(const std::function<void()>& look) {
@@ -27,6 +31,11 @@ void ThroughTheScreens::through_the_screens(const std::function<void()>& look) {
     auto& editor = screen<annotate::frmTavrin05>();
     click_line(editor.lstSpellen, 0);
     look();
+    click(editor.picYesNo(0));
+    type("Duik");
+    click(editor.cmdVoorBeeld);
+    look();
+    click(editor.cmdSluiten);
     click(editor.cmdToonSpel);
     screen<annotate::frmTavrin06>();
     look();
@@ -49,7 +58,31 @@ void ThroughTheScreens::through_the_screens(const std::function<void()>& look) {
     click(main().cmdTavrin);
     auto& table = screen<table::frmTavrin02>();
     look();
+    host.own_time = false;
     click(table.cmdStart);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return table.cmdVerder.Visible(); }, 20000));
+    while (!table.cmdVerder.Visible())
+        ASSERT_EQ(forms::user::tick(table.timSpeelKaart), forms::Refusal::None);
     look();
+    play_to_the_end(table);
+    look();
+    click(table.cmdTerug);
+
+    std::filesystem::remove(path("aftavrin/QVT_Spel 002/QVT_Spel 002 aftavrin.txt"));
+    click_line(main().lstSpellen, "QVT_Spel 002");
+    click(main().cmdTavrin);
+    click(screen<table::frmTavrin02>().cmdStart);
+    screen<services::frmTavrin08>();
+    look();
+}
+
+void ThroughTheScreens::play_to_the_end(table::frmTavrin02& table) {
+    while (gedeeld().kaartTeller < cards::kKaarten || table.cmdVerder.Visible()) {
+        if (table.cmdVerder.Visible()) {
+            click(table.cmdVerder);
+        } else {
+            ASSERT_EQ(forms::user::tick(table.timSpeelKaart), forms::Refusal::None);
+        }
+    }
+    while (table.timSpeelKaart.running())
+        forms::user::tick(table.timSpeelKaart);
 }

@@ -9,9 +9,8 @@ int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleTest(&argc, argv);
     QApplication application(argc, argv);
-    QApplication::setStyle(new desktop::Style);
+    desktop::Style::use();
     desktop::describe_widgets();
-    QApplication::setPalette(desktop::Style::colours());
     QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
 }

@@ -1,4 +1,4 @@
-# shellcheck shell=bash disable=SC2034,SC2119,SC2120,SC2154
+# shellcheck shell=bash disable=SC2034,SC2046,SC2119,SC2120,SC2154
 # What the tests from outside share. Sourced, with the program as first argument, the sample deals as second and a folder
 # to work in as third.
 # shellcheck source=tools/screen.sh
@@ -17,7 +17,7 @@ cp -r "$samples/RVLX" "$folder/"
 mkdir -p "$folder/stick/QVT_Spellen"
 printf '[Platform]\r\nProgramFiles=.\r\nDrives=stick\r\n[Standaard]\r\nSnelheid=100\r\n' >"$folder/standaardtavrin.ini"
 
-# expect WHAT COMMAND...: the command must succeed, soon where the program is still at work.
+# expect WHAT COMMAND...: the command must succeed, soon where the program is still at work; pictures are then taken anew.
 expect() {
     local what=$1 end=$((SECONDS + 10))
     shift
@@ -27,6 +27,7 @@ expect() {
             give_up "not so: $what"
         fi
         sleep 0.1
+        [ -z "${looked:-}" ] || watch look "$current" "$looked"
     done
 }
 # Clicks where nothing need change to be seen.
@@ -42,36 +43,35 @@ same_files() {
 # look NAME: a picture of the current window; the checks of places look at the last one.
 look() {
     put_mouse_away
-    looked=$pictures/$1.png
-    import -window "$current" -quality 10 "$looked"
+    looked=$pictures/$1.ppm
+    watch look "$current" "$looked" || give_up "no picture of $1: $watched"
 }
 same_pictures() {
-    [ "$(compare -metric AE "$pictures/$1.png" "$pictures/$2.png" null: 2>&1)" = 0 ]
+    cmp -s "$pictures/$1.ppm" "$pictures/$2.ppm"
 }
 
-# crop LEFT TOP WIDTH HEIGHT: that place as an argument of ImageMagick.
-crop() {
-    echo "$(($3 * pixels / twips))x$(($4 * pixels / twips))+$(across "$1")+$(down "$2")"
+# pixels_of LEFT TOP WIDTH HEIGHT: that place in the current window.
+pixels_of() {
+    echo "$(across "$1")" "$(down "$2")" $(($3 * pixels / twips)) $(($4 * pixels / twips))
 }
-# shares LEFT TOP WIDTH HEIGHT COLOUR...: how much of a place has about each colour, in thousandths.
+# shares LEFT TOP WIDTH HEIGHT COLOUR...: how much of a place has about each colour, in thousandths, comes to `watched`.
 shares() {
-    local colour masks=()
-    for colour in "${@:5}"; do
-        masks+=("(" mpr:place -transparent "$colour" -alpha extract -negate ")")
-    done
-    convert "$looked" -crop "$(crop "${@:1:4}")" +repage -fuzz 15% -write mpr:place "${masks[@]}" -delete 0 \
-        -format '%[fx:round(1000*mean)] ' info:
+    watch shares $(pixels_of "${@:1:4}") "${@:5}" || true
 }
+readonly WHITE=ffffff BLACK=000000 RED=ff0000
 readonly NONE=5  # thousandths that count as nothing
 # Whether most of a place has that colour, all of it, any of it, or none.
 is_of() {
-    [ "$(shares "${@:2}" "$1")" -gt 500 ]
+    shares "${@:2}" "$1"
+    [ "$watched" -gt 500 ]
 }
 is_all_of() {
-    [ "$(shares "${@:2}" "$1")" -ge $((1000 - NONE)) ]
+    shares "${@:2}" "$1"
+    [ "$watched" -ge $((1000 - NONE)) ]
 }
 holds() {
-    [ "$(shares "${@:2}" "$1")" -gt $NONE ]
+    shares "${@:2}" "$1"
+    [ "$watched" -gt $NONE ]
 }
 holds_no() {
     ! holds "$@"
@@ -79,8 +79,7 @@ holds_no() {
 
 # same_places LEFT TOP WIDTH HEIGHT LEFT TOP WIDTH HEIGHT: whether two places look alike.
 same_places() {
-    cmp -s <(convert "$looked" -crop "$(crop "${@:1:4}")" +repage rgb:) \
-        <(convert "$looked" -crop "$(crop "${@:5:4}")" +repage rgb:)
+    watch same $(pixels_of "${@:1:4}") $(pixels_of "${@:5:4}")
 }
 differing_places() {
     ! same_places "$@"

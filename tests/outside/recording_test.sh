@@ -7,7 +7,7 @@ set -euo pipefail
 # shellcheck source=tests/outside/outside.sh
 source "$(dirname "$0")/outside.sh"
 readonly RECORDED="QVT_Spel 001" OTHER="QVT_Spel 002" RENAMED="QVT_Spel 077"
-readonly LIGHT_BLUE="rgb(192,192,255)" GREEN="rgb(0,255,0)"
+readonly LIGHT_BLUE=c0c0ff GREEN=00ff00
 original=$samples/aftavrin/$RECORDED
 recorded=$folder/aftavrin/$RECORDED
 stick=$folder/stick/QVT_Spellen
@@ -20,34 +20,49 @@ label_of() {
     held=${held%%"$(value_of "$2")"*}  # the higher ones stand before it
     card_place "$1" "$(suit_of "$2")" ${#held}
 }
+# Clicks on so many cards in turn.
+click_cards() {
+    local play left top width height steps=()
+    for play in "$@"; do
+        read -r left top width height < <(label_of $play)
+        steps+=(mousemove --window "$current" "$(across $((left + width / 2)))" "$(down $((top + height / 2)))" click 1)
+    done
+    xdotool "${steps[@]}"
+}
+# The keys that play so many cards: the letter of the suit and that of the value.
+letters_of() {
+    local play code letters=shrk
+    for play in "$@"; do
+        code=${play##* }
+        echo "${letters:$(suit_of "$code"):1}" "$(value_of "$code" | tr A-Z a-z)"
+    done
+}
 by_mouse() {
     case $1 in
         begin) click 1740 4530 1845 435 ;;
         choose) line 210 450 0 ;;
-        play) move $(label_of $2) && answers xdotool click 1 ;;
+        play) click_cards "${@:2}" ;;
         keep) click 2970 4830 1245 525 ;;
     esac
 }
 # From the list of deals a step leads to where letters play cards.
 by_keys() {
-    local letters=shrk code=${2:-}
-    code=${code##* }
     case $1 in
         begin) key alt+n ;;
         choose) key Tab && key Home && key Tab ;;
-        play) answers xdotool key "${letters:$(suit_of "$code"):1}" "$(value_of "$code" | tr A-Z a-z)" ;;
+        play) xdotool key $(letters_of "${@:2}") ;;
         keep) key alt+o ;;
     esac
 }
 all_green() {
     local play
     for play in "$@"; do
-        expect "the card $play is of a trick" is_of "$GREEN" $(label_of $play)
+        is_of $GREEN $(label_of $play) || return
     done
 }
 # record HOW: by_mouse or by_keys.
 record() {
-    local how=$1 plays n
+    local how=$1 plays
     mapfile -t plays < <(cards_in_turn "$original/$RECORDED aftavrin.txt")
     at "Zandolin Lomert"
     $how begin
@@ -56,15 +71,14 @@ record() {
     look chosen
     expect "the lead lies on the table" is_of "$LIGHT_BLUE" $(label_of ${plays[0]})
     expect "its leader is marked in the grid" holds "$LIGHT_BLUE" 2940 5460 5745 600
-    for n in 1 2 3; do $how play "${plays[n]}"; done
+    changes $how play "${plays[@]:1:3}"
     look first-trick
-    all_green "${plays[@]:0:4}"
-    expect "the next card is in the hand" is_of white $(label_of ${plays[4]})
-    for n in $(seq 4 51); do $how play "${plays[n]}"; done
-    settled
+    expect "the first trick's cards are green" all_green "${plays[@]:0:4}"
+    expect "the next card is in the hand" is_of $WHITE $(label_of ${plays[4]})
+    changes $how play "${plays[@]:4}"
     changes xdotool key Return  # the box that tells how to keep it
     look recorded
-    all_green "${plays[@]}"
+    expect "all cards are green" all_green "${plays[@]}"
     $how keep
     expect "the play and the companion's files are kept" same_files --exclude='*informatie*' "$original" "$recorded"
     expect "no card has a text" same_records
@@ -116,7 +130,7 @@ export_it() {
     click 1710 4020 1875 435
     at "Import/Export"
     look empty-stick
-    expect "the stick is empty" is_all_of white 5640 540 2000 400
+    expect "the stick is empty" is_all_of $WHITE 5640 540 2000 400
     line 240 420 0
     click 3330 5490 1605 585
     expect "the stick holds the deal" same_files "$recorded" "$stick/$RECORDED"
@@ -150,7 +164,7 @@ import_it() {
     click 1710 4020 1875 435
     at "Import/Export"
     look full-stick
-    expect "the stick shows the deal" holds black 5640 540 2000 200
+    expect "the stick shows the deal" holds $BLACK 5640 540 2000 200
     line 5550 450 0
     click 8640 5490 1605 585
     expect "the deal is back" same_files "$stick/$RECORDED" "$recorded"
@@ -167,7 +181,7 @@ damaged_deal_is_reported() {
     at "Fout in het programma"
     expect "the clipboard tells where" grep -q "^Fout in:Kaarten - General - " <(xclip -selection clipboard -o)
     look report
-    expect "the report tells it too" holds black 3780 720 3000 800
+    expect "the report tells it too" holds $BLACK 3780 720 3000 800
     click 120 2280 2145 495
     changes xdotool key Return
     timeout $LIMIT tail --pid="${processes[0]}" -f /dev/null || give_up "the program does not end"
@@ -193,6 +207,6 @@ expect "both deals are in the list" same_pictures two-deals kept
 delete_it alt+j
 expect "the deal is deleted" test ! -e "$folder/aftavrin/$RENAMED"
 look deleted
-expect "it is gone from the list" is_all_of white 3795 645 1950 150
+expect "it is gone from the list" is_all_of $WHITE 3795 645 1950 150
 import_it
 damaged_deal_is_reported

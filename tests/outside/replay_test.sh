@@ -18,8 +18,9 @@ mapfile -t stops < <(fold -bw532 "$files informatie.txt" | LC_ALL=C sed -n 's/^\
 
 # shows SUIT LEFT TOP: the corner of a card of that suit lies there.
 shows() {
-    local colours=(black red red black) others=(red black black red) white ink other
-    read -r white ink other < <(shares $(($2 + 75)) $(($3 + 105)) 345 375 white "${colours[$1]}" "${others[$1]}") || true
+    local colours=("$BLACK" "$RED" "$RED" "$BLACK") others=("$RED" "$BLACK" "$BLACK" "$RED") white ink other
+    shares $(($2 + 75)) $(($3 + 105)) 345 375 $WHITE "${colours[$1]}" "${others[$1]}"
+    read -r white ink other <<<"$watched"
     [ "$white" -gt 300 ] && [ "$ink" -gt $NONE ] && [ "$other" -le $NONE ]
 }
 # Whether the trick with that card lies on the table up to it, and nothing in the other places.
@@ -32,9 +33,9 @@ lies() {
         shows "$(suit_of "$code")" ${PLAYED[seat]} || return
     done
     for seat in 1 2 3 4; do
-        [ -n "${lying[seat]:-}" ] || holds_no white ${PLAYED[seat]} 1560 2340 || return
+        [ -n "${lying[seat]:-}" ] || holds_no $WHITE ${PLAYED[seat]} 1560 2340 || return
     done
-    holds black $TEXT
+    holds $BLACK $TEXT
 }
 
 # hand SEAT SUIT: its cards, highest first.
@@ -63,7 +64,7 @@ all_open() {
         held=$(hand 4 $suit) && row $suit ${#held} 1140 $top || return
         top=$((top + 500))
     done
-    holds_no white 6300 5212 1400 2340
+    holds_no $WHITE 6300 5212 1400 2340
 }
 
 # Leaves the table as it is at the first text.
@@ -73,14 +74,14 @@ begin() {
     click 5280 4530 1545 435
     at "$TABLE"
     look closed
-    expect "no card is played" holds_no white ${PLAYED[4]} 1560 2340
+    expect "no card is played" holds_no $WHITE ${PLAYED[4]} 1560 2340
     click 17640 $BUTTON_TOP $BUTTON_SIZE
     expect "the trick lies there at card ${stops[0]}" lies "${stops[0]}"
 }
 
 start_program
 begin
-cp "$looked" "$pictures/first-time.png"
+cp "$looked" "$pictures/first-time.ppm"
 click 0 $BUTTON_TOP $BUTTON_SIZE
 begin
 expect "the table looks as it did" same_pictures first-time "card-${stops[0]}"

@@ -204,7 +204,7 @@ bool Keyboard::zoom_key(const QKeyEvent& event) {
     }
 }
 
-void Keyboard::show_mark() { mark_.show_around(window_.retired() ? QRect() : marked()); }
+void Keyboard::show_mark() { mark_.show_around(window_.retired() ? QRect() : marked(), window_.scale().zoom()); }
 
 // Around the cursor of a stop, the line of a list of which several can be chosen, or the whole widget.
 QRect Keyboard::marked() const {

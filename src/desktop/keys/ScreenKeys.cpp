@@ -1,12 +1,15 @@
 #include "desktop/keys/ScreenKeys.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <string>
 
 #include "desktop/FormWindow.h"
 #include "desktop/keys/TypedCard.h"
+#include "desktop/views/View.h"
 #include "forms/CommandButton.h"
 #include "forms/Label.h"
 #include "forms/ListBox.h"
@@ -45,7 +48,8 @@ private:
     forms::ListBox& list() const { return named<forms::ListBox>(window_, "lstSpellen"); }
 };
 
-// Space goes on with the play, arrows change its speed. When the deal is over only the way back is left.
+// Space goes on with the play, arrows change its speed, and long texts are turned over page by page. When the deal is
+// over only the way back is left.
 class TableKeys final : public ScreenKeys {
 public:
     using ScreenKeys::ScreenKeys;
@@ -64,6 +68,10 @@ public:
             case Qt::Key_Down:
                 step(window_, named<forms::VScrollBar>(window_, "vscrSnelHeid"), -1, event);
                 return true;
+            case Qt::Key_PageUp:
+                return turn_page(QAbstractSlider::SliderPageStepSub);
+            case Qt::Key_PageDown:
+                return turn_page(QAbstractSlider::SliderPageStepAdd);
             default:
                 return false;
         }
@@ -76,6 +84,17 @@ public:
 
 private:
     forms::CommandButton& button(const char* name) const { return named<forms::CommandButton>(window_, name); }
+    // Of the question or the text to a card, where it is longer than its box.
+    bool turn_page(QAbstractSlider::SliderAction action) const {
+        for (const char* name : {"txtVraag", "txtInformatie"}) {
+            const forms::Control& box = window_.form().control(name);
+            const views::View* shown = window_.view(box);
+            auto* area =
+                shown && box.visible_to_user() ? qobject_cast<QAbstractScrollArea*>(&shown->widget()) : nullptr;
+            if (area) area->verticalScrollBar()->triggerAction(action);
+        }
+        return true;
+    }
     void go_on() {
         forms::CommandButton& next = button(button("cmdVerder").Visible ? "cmdVerder" : "cmdStart");
         window_.act([&] { forms::user::click(next); });

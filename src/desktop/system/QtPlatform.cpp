@@ -7,12 +7,14 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QPainter>
 #include <QProcess>
 #include <QPushButton>
 #include <QUrl>
 #include <algorithm>
 
 #include "base/Fout.h"
+#include "desktop/Colours.h"
 #include "desktop/FormWindow.h"
 #include "desktop/QtHost.h"
 #include "desktop/Text.h"
@@ -55,6 +57,25 @@ bool is_program(const QFileInfo& file) {
     return file.isExecutable() || file.suffix().isEmpty() || file.suffix().compare("exe", Qt::CaseInsensitive) == 0;
 }
 
+// The sign in a box that asks or tells something, for a screen with that ratio of physical to logical pixels.
+QPixmap sign(const QString& letter, double zoom, double pixel_ratio) {
+    constexpr double kSize = 40;    // pixels at zoom 1
+    constexpr double kLetter = 20;  // points
+    const QRectF disc(0, 0, kSize * zoom, kSize * zoom);
+    QPixmap drawn((disc.size() * pixel_ratio).toSize());
+    drawn.setDevicePixelRatio(pixel_ratio);
+    drawn.fill(Qt::transparent);
+    QPainter painter(&drawn);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colours::kSelection);
+    painter.drawEllipse(disc);
+    painter.setPen(colours::kSelectedWords);
+    painter.setFont(screen_font(kLetter, true, zoom));
+    painter.drawText(disc, Qt::AlignCenter, letter);
+    return drawn;
+}
+
 }  // namespace
 
 QtPlatform::QtPlatform(QtHost& host, std::string program_folder, std::string settings_file)
@@ -77,6 +98,10 @@ platform::Answer QtPlatform::message_box(int style, const std::string& title, co
     QMessageBox box(style == platform::box_style::kQuestion ? QMessageBox::Question : QMessageBox::Information,
                     to_qt(title), to_qt(text), QMessageBox::NoButton, host_.front());
     box.setTextFormat(Qt::PlainText);
+    const double zoom = FormWindow::zoom_around(&box);
+    box.setFont(screen_font(kUsualPoints, false, zoom));
+    const bool question = style == platform::box_style::kQuestion;
+    box.setIconPixmap(sign(question ? QStringLiteral("?") : QStringLiteral("i"), zoom, box.devicePixelRatioF()));
     const QAbstractButton* yes = nullptr;
     if (asks) {
         yes = box.addButton(words::kYes, QMessageBox::YesRole);

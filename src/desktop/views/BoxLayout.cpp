@@ -42,8 +42,11 @@ double BoxLayout::line_height() const {
 }
 
 double BoxLayout::text_width() const {
-    return (measures_.box_width / forms::kTwipsPerPixel - forms::kBoxMarginInPixels) * measures_.zoom;
+    const double counted = (measures_.box_width / forms::kTwipsPerPixel - forms::kBoxMarginInPixels) * measures_.zoom;
+    return std::max(1.0, counted - measures_.right);
 }
+
+double BoxLayout::zoom_across() const { return measures_.zoom * text_width() / (text_width() + measures_.right); }
 
 // A block that kept its text keeps its lines: it only moves.
 void BoxLayout::documentChanged(int, int, int) {
@@ -85,7 +88,7 @@ double BoxLayout::lay_out(const QTextBlock& block) const {
     layout.setFormats(formats);
     layout.setCacheEnabled(true);  // its words are shaped one by one, so once must do
     layout.beginLayout();
-    const double blank = forms::character_width(' ', {measures_.points, false}) * measures_.zoom;
+    const double blank = forms::character_width(' ', {measures_.points, false}) * zoom_across();
     double height = 0;
     for (std::size_t i = 0; i + 1 < starts.size(); ++i) {
         QTextLine line = layout.createLine();
@@ -126,7 +129,7 @@ const QTextCharFormat& BoxLayout::format_of(std::string_view word) const {
 
 double BoxLayout::spare_of(char character) const {
     if (const auto known = spares_.find(character); known != spares_.end()) return known->second;
-    const double wanted = forms::character_width(character, {measures_.points, false}) * measures_.zoom;
+    const double wanted = forms::character_width(character, {measures_.points, false}) * zoom_across();
     const double own = QFontMetricsF(measures_.font).horizontalAdvance(to_qt(std::string(1, character)));
     return spares_[character] = wanted - own;
 }
@@ -143,7 +146,9 @@ void BoxLayout::draw(QPainter* painter, const PaintContext& context) {
         }
         block.layout()->draw(painter, QPointF(), selections, context.clip);
         const int cursor = context.cursorPosition - first;
-        if (cursor >= 0 && cursor < block.length()) block.layout()->drawCursor(painter, QPointF(), cursor, 1);
+        if (cursor < 0 || cursor >= block.length()) continue;
+        const int width = std::max(1, static_cast<int>(std::lround(measures_.zoom)));
+        block.layout()->drawCursor(painter, QPointF(), cursor, width);
     }
 }
 

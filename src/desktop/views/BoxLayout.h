@@ -19,7 +19,8 @@ public:
         double box_width = 0;  // twips, as the core knows it
         double points = 0;
         double zoom = 1;
-        double left = 0;  // logical pixels left free before the text
+        double left = 0;   // logical pixels left free before the text
+        double right = 0;  // and behind it, beside the margin that the core counts: the letters move together for it
         QFont font;
         forms::Alignment alignment = forms::Alignment::Left;
 
@@ -49,6 +50,7 @@ private:
         double height = 0;
     };
     double text_width() const;
+    double zoom_across() const;  // at which a line takes that width
     // The height of the block.
     double lay_out(const QTextBlock& block) const;
     // Letters so far apart, or together, that the word gets its room.

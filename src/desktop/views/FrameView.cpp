@@ -4,12 +4,12 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "desktop/Colours.h"
 #include "desktop/Text.h"
 
 namespace desktop::views {
 
 namespace {
-const QColor kLineColour(0xB4, 0xB4, 0xB4);
 // Pixels at zoom 1.
 constexpr double kTitleIndent = 8;
 constexpr double kTitleGap = 3;
@@ -46,7 +46,7 @@ private:
         painter.setPen(Qt::NoPen);
         painter.setBrush(background_);
         painter.drawRoundedRect(line, radius, radius);
-        painter.setPen(QPen(kLineColour, std::max(1.0, zoom_)));
+        painter.setPen(QPen(colours::kGroupLine, std::max(1.0, zoom_)));
         painter.setBrush(Qt::NoBrush);
         painter.setClipRegion(QRegion(rect()) - title_place.adjusted(-gap, 0, gap, 0));
         painter.drawRoundedRect(line, radius, radius);

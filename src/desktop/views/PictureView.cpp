@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/Colours.h"
 #include "desktop/FormWindow.h"
 #include "desktop/QtHost.h"
 #include "desktop/Text.h"
@@ -105,7 +106,7 @@ private:
         if (pixmap.isNull()) return;
         corner = QPointF(dots.topLeft()) / ratio - mapTo(window(), QPointF());
         if (needs_rim()) {
-            const QPixmap rim = silhouette(pixmap, Qt::white);
+            const QPixmap rim = silhouette(pixmap, colours::kSymbolRim);
             for (const QPointF aside : {QPointF(-zoom_, 0), QPointF(zoom_, 0), QPointF(0, -zoom_), QPointF(0, zoom_)})
                 painter.drawPixmap(corner + aside, rim);
         }

@@ -5,12 +5,9 @@
 #include <algorithm>
 #include <cmath>
 
-namespace desktop::views {
+#include "desktop/Colours.h"
 
-namespace {
-const QColor kFrameColour(0x64, 0x64, 0x64);
-const QColor kFrameOnDark(0x8F, 0xBE, 0xA2);
-}  // namespace
+namespace desktop::views {
 
 void Surface::set_look(const QColor& background, bool framed, double zoom) {
     const int frame = framed ? std::max(1, static_cast<int>(std::lround(zoom))) : 0;
@@ -32,7 +29,7 @@ void Surface::paintEvent(QPaintEvent*) {
     paint_content(painter, inside);
     if (frame_ == 0) return;
     painter.setClipRegion(QRegion(rect()) - inside);
-    painter.fillRect(rect(), on_dark_ground() ? kFrameOnDark : kFrameColour);
+    painter.fillRect(rect(), on_dark_ground() ? colours::kFrameOnDark : colours::kFrame);
 }
 
 void Surface::mousePressEvent(QMouseEvent* event) { pressed_ = event->button() == Qt::LeftButton; }

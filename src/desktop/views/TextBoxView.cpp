@@ -88,6 +88,7 @@ void TextBoxView::tell_if_full() {
     const int most = box_.MaxLength;
     if (most <= kNotNumbers || static_cast<int>(box_.Text().size()) < most) return;
     const QString words = QString(words::kBoxIsFull).arg(most);
+    QToolTip::setFont(screen_font(kUsualPoints, false, scale().zoom()));
     QToolTip::showText(widget().mapToGlobal(QPoint(0, widget().height())), words, &widget());
     speak(words);
 }

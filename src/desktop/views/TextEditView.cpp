@@ -1,16 +1,25 @@
 #include "desktop/views/TextEditView.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QMimeData>
 #include <QPainter>
 #include <QScrollBar>
+#include <QTextBlock>
 #include <QTextDocument>
+#include <algorithm>
 
+#include "desktop/Colours.h"
 #include "desktop/views/BoxLayout.h"
+#include "forms/Form.h"
 #include "forms/TextMeasure.h"
 
 namespace desktop::views {
 
 namespace {
+
+// Of the scroll mark, pixels at zoom 1.
+constexpr double kMarkWidth = 3;
+constexpr double kMarkMargin = 1;
 
 class EditWidget final : public QTextEdit {
 public:
@@ -23,16 +32,28 @@ public:
         setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     }
 
+    void set_zoom(double zoom) { zoom_ = zoom; }
+
 private:
     void paintEvent(QPaintEvent* event) override {
         QTextEdit::paintEvent(event);
         const QScrollBar& bar = *verticalScrollBar();
-        if (frameShape() == QFrame::NoFrame || bar.maximum() <= 0) return;
-        const int height = viewport()->height();
-        const int whole = bar.maximum() + bar.pageStep();
+        if (bar.maximum() <= 0 || (bar.value() == 0 && end_of_words() <= viewport()->height())) return;
+        const double height = viewport()->height();
+        const double whole = bar.maximum() + bar.pageStep();
+        QColor mark = palette().color(QPalette::Text);
+        mark.setAlphaF(colours::kScrollMarkShare);
         QPainter painter(viewport());
-        painter.fillRect(viewport()->width() - 3, height * bar.value() / whole, 2, height * bar.pageStep() / whole,
-                         Qt::gray);
+        painter.fillRect(QRectF(viewport()->width() - (kMarkWidth + kMarkMargin) * zoom_, height * bar.value() / whole,
+                                kMarkWidth * zoom_, height * bar.pageStep() / whole),
+                         mark);
+    }
+    // Empty lines behind the words are nothing that would have to be scrolled to.
+    double end_of_words() const {
+        QTextBlock block = document()->lastBlock();
+        while (block.previous().isValid() && block.text().trimmed().isEmpty())
+            block = block.previous();
+        return document()->documentLayout()->blockBoundingRect(block).bottom();
     }
     // The widget's own reading of a clipboard asks for the first of its formats, even where it has none.
     bool canInsertFromMimeData(const QMimeData* source) const override { return source && source->hasText(); }
@@ -42,6 +63,8 @@ private:
         ensureCursorVisible();
     }
     void scrollContentsBy(int, int) override { viewport()->update(); }
+
+    double zoom_ = 1;
 };
 
 }  // namespace
@@ -64,10 +87,20 @@ void TextEditView::show_state() {
     measures.points = box().FontSize;
     measures.zoom = scale().zoom();
     measures.left = forms::kBoxMarginInPixels / 2 * measures.zoom - widget_.frameWidth();
+    measures.right = (kMarkWidth + kMarkMargin) * measures.zoom;
     measures.font = font();
     measures.alignment = box().Alignment();
+    static_cast<EditWidget&>(widget_).set_zoom(measures.zoom);
     layout_->set_measures(measures);
     TextBoxView::show_state();
+}
+
+QRect TextEditView::place() const {
+    QRect place = TextBoxView::place();
+    const forms::Control* below = const_cast<forms::Container&>(box().container()).as_control();
+    const int end = scale().pixels(below ? below->Height() : box().form().Height());
+    if (place.top() < end) place.setBottom(std::min(place.bottom(), end - 1));
+    return place;
 }
 
 TextRange TextEditView::shown_selection() const {

@@ -15,6 +15,8 @@ public:
 
 private:
     void show_state() override;
+    // A box that reaches past what it stands on ends there, so that its last line can be scrolled into sight.
+    QRect place() const override;
     QString shown_text() const override { return widget_.toPlainText(); }
     void show_text(const QString& text) override { widget_.setPlainText(text); }
     TextRange shown_selection() const override;

@@ -1,10 +1,12 @@
 #include "desktop/views/View.h"
 
 #include <QFocusEvent>
+#include <QToolTip>
 
 #include "desktop/FormWindow.h"
 #include "desktop/QtHost.h"
 #include "desktop/Text.h"
+#include "desktop/Words.h"
 #include "forms/Frame.h"
 #include "forms/Label.h"
 #include "forms/User.h"
@@ -55,7 +57,9 @@ void View::refresh() {
 
 QString View::spoken_name() const {
     if (!control_.AccessibleName().empty()) return to_qt(control_.AccessibleName());
-    return speaks_for_itself() ? QString() : to_qt(without_mark(words_beside(control_)));
+    if (speaks_for_itself()) return {};
+    const std::string beside = words_beside(control_);
+    return beside.empty() ? words::of_box(control_.name()) : to_qt(without_mark(beside));
 }
 
 void View::speak(const QString& words) {
@@ -93,6 +97,9 @@ bool View::eventFilter(QObject*, QEvent* event) {
         case QEvent::FocusIn:
             // A GotFocus may have passed the focus on; the widget then never shows that it had it.
             return !focus_came(static_cast<QFocusEvent*>(event)->reason());
+        case QEvent::ToolTip:
+            QToolTip::setFont(screen_font(kUsualPoints, false, scale().zoom()));
+            return false;
         case QEvent::KeyPress:
         case QEvent::KeyRelease:
             return window_.keyboard().key_event(*widget_, *static_cast<QKeyEvent*>(event));

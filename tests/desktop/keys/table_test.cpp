@@ -1,5 +1,8 @@
 // The table by keys alone.
+#include <QScrollBar>
+#include <QTextEdit>
 #include <QWindow>
+#include <fstream>
 
 #include "desktop/RealProgram.h"
 #include "library/frmTavrin01.h"
@@ -67,6 +70,32 @@ TEST_F(TableKeys, SpaceGoesOnToTheEndWhereTheWayBackHasTheFocus) {
     EXPECT_EQ(marked(), place_of(table.cmdTerug));
     key(Qt::Key_Space);
     screen<library::frmTavrin01>();
+}
+
+TEST_F(TableKeys, ALongQuestionIsTurnedOverPageByPage) {
+    {
+        std::ofstream question(path("aftavrin/QVT_Spel 001/QVT_Spel 001 vraag.txt"));
+        question << "\r\n";
+        for (int i = 0; i < 60; ++i)
+            question << "Regel " << i << "\r\n";
+    }
+    auto& table = open("1000");
+    const QScrollBar& bar = *widget_as<QTextEdit>(table.txtVraag).verticalScrollBar();
+    ASSERT_GT(bar.maximum(), 0);
+    const QImage first = picture(table.txtVraag);
+    key(Qt::Key_PageDown);
+    EXPECT_GT(bar.value(), 0);
+    EXPECT_NE(picture(table.txtVraag), first);
+    EXPECT_EQ(focused(), "cmdStart");
+    for (int i = 0; i < 20; ++i)
+        key(Qt::Key_PageDown);
+    EXPECT_EQ(bar.value(), bar.maximum());
+    const QWidget& surface = widget(table.picBack);
+    EXPECT_TRUE(surface.rect().contains(widget(table.txtVraag).geometry())) << "the last line can be read";
+    for (int i = 0; i < 20; ++i)
+        key(Qt::Key_PageUp);
+    EXPECT_EQ(bar.value(), 0);
+    EXPECT_EQ(picture(table.txtVraag), first);
 }
 
 }  // namespace

@@ -17,7 +17,7 @@ std::vector<std::size_t> drawn_lines(const std::string& text, double width, doub
     QTextDocument document;
     auto* layout = new desktop::views::BoxLayout(&document);
     document.setDocumentLayout(layout);
-    layout->set_measures({width, points, zoom, 3 * zoom, desktop::screen_font(points, false, zoom), {}});
+    layout->set_measures({width, points, zoom, 3 * zoom, 4 * zoom, desktop::screen_font(points, false, zoom), {}});
     document.setPlainText(desktop::BoxText(text, true).shown());
     std::vector<std::size_t> starts;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
@@ -67,7 +67,7 @@ TEST(BoxLayout, GivesEachWordTheRoomThatTheCoreCounts) {
     QTextDocument document;
     auto* layout = new desktop::views::BoxLayout(&document);
     document.setDocumentLayout(layout);
-    layout->set_measures({5325, 12, 1, 3, desktop::screen_font(12, false, 1), {}});
+    layout->set_measures({5325, 12, 1, 3, 0, desktop::screen_font(12, false, 1), {}});
     const std::string text = "West komt uit met V\xE9rt affijn";
     document.setPlainText(desktop::to_qt(text));
     const QTextLine line = document.begin().layout()->lineAt(0);
