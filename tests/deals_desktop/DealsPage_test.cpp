@@ -93,6 +93,7 @@ TEST_F(DealsPage, AContractThatIsFilledInBringsThePlayToo) {
     EXPECT_EQ(cell(0, DealModel::Cards), "");
     auto& combos = find<QPushButton>(QStringLiteral("Invullen"));
     const auto boxes = combos.parentWidget()->findChildren<QComboBox*>();
+    EXPECT_FALSE(combos.isEnabled()) << "nothing is taken for granted";
     QTest::keyClicks(boxes[0], QStringLiteral("3"));
     QTest::keyClicks(boxes[1], QStringLiteral("SA"));
     QTest::keyClicks(boxes[3], QStringLiteral("Z"));
@@ -107,6 +108,9 @@ TEST_F(DealsPage, AContractThatIsFilledInBringsThePlayToo) {
 TEST_F(DealsPage, AFileThatHasChangedIsNotTakenForTheOneThatIsShown) {
     open("club.pbn", kBare);
     put("club.pbn", kWrong);
+    const auto boxes = find<QPushButton>(QStringLiteral("Invullen")).parentWidget()->findChildren<QComboBox*>();
+    for (const int box : {0, 1, 3})
+        keys(*boxes[box], Qt::Key_Down);
     QTest::mouseClick(&find<QPushButton>(QStringLiteral("Invullen")), Qt::LeftButton);
     wait_for_work();
     EXPECT_NE(messages().find("club.pbn: het bestand is veranderd"), std::string::npos) << messages();
