@@ -45,6 +45,7 @@ ContractBox::ContractBox() {
         row->addWidget(part);
     problem_.setTextFormat(Qt::PlainText);
     row->addWidget(&problem_, 1);
+    setFocusPolicy(Qt::StrongFocus);  // so that a label leads here
     setFocusProxy(&level_);
     for (QComboBox* const box : {&level_, &strain_, &doubling_, &declarer_})
         connect(box, &QComboBox::activated, this, [this] {

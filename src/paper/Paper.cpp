@@ -4,8 +4,10 @@
 #include <QBuffer>
 #include <QFont>
 #include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QScreen>
 #include <QTextDocument>
 #include <QTextFrame>
 #include <stdexcept>
@@ -40,7 +42,8 @@ public:
         document.setHtml(QString::fromStdString(html));
         document.documentLayout()->setPaintDevice(&device_);
         QTextFrameFormat frame = document.rootFrame()->frameFormat();
-        frame.setMargin(kMargin * device_.logicalDpiY());
+        // The layout takes measures of a format for those of a screen, and scales them to its device.
+        frame.setMargin(kMargin * qRound(QGuiApplication::primaryScreen()->logicalDotsPerInchY()));
         document.rootFrame()->setFrameFormat(frame);
         const QSizeF size(device_.width(), device_.height());
         document.setPageSize(size);
