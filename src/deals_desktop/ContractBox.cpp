@@ -15,6 +15,13 @@ constexpr int kStrains = 5;
 
 // The first line of a box stands for nothing chosen.
 int chosen_in(const QComboBox& box) { return box.currentIndex() - 1; }
+
+// Begins with what is typed to choose it: "Harten" with its symbol, or "SA".
+QString name_of(exchange::Strain strain) {
+    const QString symbol = dutch_text(strain);
+    return exchange::trump_of(strain) ? spoken(strain) + QLatin1Char(' ') + symbol : symbol;
+}
+
 void choose(QComboBox& box, int line) { box.setCurrentIndex(line + 1); }
 
 }  // namespace
@@ -24,10 +31,8 @@ ContractBox::ContractBox() {
         box->addItem(words::kNotChosen);
     for (int level = 1; level <= kLevels; ++level)
         level_.addItem(QString::number(level));
-    for (int strain = 0; strain < kStrains; ++strain) {
-        strain_.addItem(dutch_text(static_cast<exchange::Strain>(strain)));
-        strain_.setItemData(strain + 1, spoken(static_cast<exchange::Strain>(strain)), Qt::AccessibleTextRole);
-    }
+    for (int strain = 0; strain < kStrains; ++strain)
+        strain_.addItem(name_of(static_cast<exchange::Strain>(strain)));
     for (const QString& doubling : words::kDoublings)
         doubling_.addItem(doubling);
     for (const exchange::Seat seat : exchange::kSeats)
