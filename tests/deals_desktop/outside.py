@@ -210,7 +210,11 @@ def type_a_deal():
     check_places("editor-typed")
     key("alt+o")
     at(WINDOW)
-    wait_for("the deal in the list", lambda: names_in_list()[-8:-5] == ["4 Schoppen", "Noord", "harten aas"])
+
+    def line():
+        names = names_in_list()
+        return names[names.index("Spel nr. 1"):]
+    wait_for("the deal in the list", lambda: line()[1:4] == ["4 Schoppen", "Noord", "harten aas"])
     picture("typed")
 
 
