@@ -8,7 +8,7 @@ namespace deals_desktop {
 namespace {
 
 // Widths of columns, in letters.
-constexpr int kLetters[DealModel::ColumnCount] = {17, 8, 5, 8, 7, 7, 8, 4, 20};
+constexpr int kLetters[DealModel::ColumnCount] = {20, 8, 5, 8, 7, 7, 8, 4, 20};
 
 }  // namespace
 

@@ -117,12 +117,21 @@ void Window::make_view_menu() {
     const auto add = [&](const QString& text, const QList<QKeySequence>& keys, TextSize::Step step) {
         QAction* const entry = menu->addAction(text);
         entry->setShortcuts(keys);
-        connect(entry, &QAction::triggered, this, [this, step] { text_size_.take(step); });
+        connect(entry, &QAction::triggered, this, [this, step] { take_size(step); });
     };
     add(words::kLarger, {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)},
         TextSize::Step::Larger);
     add(words::kSmaller, {QKeySequence(Qt::CTRL | Qt::Key_Minus)}, TextSize::Step::Smaller);
     add(words::kUsualSize, {QKeySequence(Qt::CTRL | Qt::Key_0)}, TextSize::Step::Usual);
+}
+
+// No larger than the screen has room for.
+void Window::take_size(TextSize::Step step) {
+    constexpr double kNext = 1.1;
+    const QSize room = screen()->availableSize() - kFrame;
+    const QSize least = minimumSizeHint() * kNext;
+    if (step == TextSize::Step::Larger && least.boundedTo(room) != least) return;
+    text_size_.take(step);
 }
 
 void Window::closeEvent(QCloseEvent* event) {

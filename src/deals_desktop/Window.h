@@ -29,6 +29,7 @@ private:
     void make_menus();
     void make_view_menu();
     void make_sort_menu(QMenu& menu);
+    void take_size(TextSize::Step step);
     Page& page();
     // The user sees what becomes of what he asks for.
     DealsPage& shown_deals();

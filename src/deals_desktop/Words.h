@@ -166,7 +166,7 @@ inline const QString kOneDealWritten = QStringLiteral("1 spel in %1 geschreven."
 inline const QString kDealsWritten = QStringLiteral("%1 spellen in %2 geschreven.");
 
 // The lessons.
-inline const QString kExport = QStringLiteral("&Exporteren...");
+inline const QString kExport = QStringLiteral("E&xporteren...");
 inline const QString kExportTitle = QStringLiteral("Lessen exporteren");
 inline const QString kExported = QStringLiteral("%1 in %2 geschreven.");
 inline const QString kOneLesson = QStringLiteral("1 les");
@@ -174,7 +174,7 @@ inline const QString kManyLessons = QStringLiteral("%1 lessen");
 inline const QString kWritten = QStringLiteral("Geschreven: %1");
 inline const QString kPrint = QStringLiteral("Af&drukken...");
 inline const QString kPrintTitle = QStringLiteral("Lessen afdrukken");
-inline const QString kMarkCostly = QStringLiteral("&Dure kaarten merken");
+inline const QString kMarkCostly = QStringLiteral("Dure kaarten &merken");
 inline const QString kMarkCostlyTip =
     QStringLiteral("Op papier staat dan bij elke kaart die slagen weggaf hoeveel het er waren");
 inline const QString kPrinting = QStringLiteral("Afdrukken");
