@@ -162,6 +162,7 @@ def open_and_import():
     at(WINDOW)
     told("club.pbn: ")
     check_places("list")
+    wait_for("the end of best play", lambda: not find("push button", "Stoppen: Beste spel"))
     before = names_in_list()
     click("table column header", "Contract")
     wait_for("the list sorted by its contracts", lambda: names_in_list() != before)
