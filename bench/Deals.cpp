@@ -8,6 +8,7 @@
 
 #include <QBuffer>
 #include <QPdfWriter>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <thread>
@@ -140,6 +141,27 @@ void measure_going_out(Report& report) {
     report.add_median("sheets of a sample lesson", papers, "ms", kPaperAim);
 }
 
+// Of the pages of all samples, where there is a browser.
+void measure_first_picture([[maybe_unused]] Report& report, [[maybe_unused]] const fs::path& folder) {
+#ifdef FIRST_PICTURE
+    constexpr double kAim = 300;
+    std::string command = FIRST_PICTURE " 3";
+    for (const auto& lesson : fs::directory_iterator(SAMPLES_DIR "/aftavrin")) {
+        const fs::path page = folder / ("page" + std::to_string(command.size()) + ".html");
+        std::ofstream(page, std::ios::binary) << page::html({exchange::read_lesson(lesson.path())});
+        command += " " + page.string();
+    }
+    std::FILE* const told = popen(command.c_str(), "r");
+    std::vector<double> times;
+    for (double time = 0; std::fscanf(told, "%lf", &time) == 1;)
+        times.push_back(time);
+    if (pclose(told) != 0 || times.empty()) return void(std::fputs("no browser could be measured\n", stderr));
+    report.add_median("first picture of the page in a browser", times, "ms", kAim);
+#else
+    std::fputs("there is no browser here: its first picture is not measured\n", stderr);
+#endif
+}
+
 }  // namespace
 
 std::string games(int count) {
@@ -161,6 +183,7 @@ void measure_deals(Report& report, const std::string& programs) {
     measure_import(report, program, folder);
     measure_checking(report, program, folder);
     measure_going_out(report);
+    measure_first_picture(report, folder);
     fs::remove_all(folder);
 }
 

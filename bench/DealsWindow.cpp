@@ -45,6 +45,20 @@ void measure_opening(Report& report, const fs::path& folder, const QString& file
     report.add_median("window opened with 10,000 boards", times, "ms", 1000);
 }
 
+// The times of the column that takes longest.
+std::vector<double> worst_sort(deals_desktop::DealList& list) {
+    std::vector<double> worst;
+    for (int column = 0; column < deals_desktop::DealModel::ColumnCount; ++column) {
+        std::vector<double> times;
+        for (int round = 0; round < kRounds; ++round) {
+            const Qt::SortOrder order = round % 2 == 0 ? Qt::DescendingOrder : Qt::AscendingOrder;
+            times.push_back(painted(list, [&] { list.sortByColumn(column, order); }));
+        }
+        if (worst.empty() || median(times) > median(worst)) worst = times;
+    }
+    return worst;
+}
+
 // While best play is worked out on all cores.
 void measure_steps(Report& report, const fs::path& folder, const QString& file) {
     deals_desktop::Window window(folder.string());
@@ -53,7 +67,7 @@ void measure_steps(Report& report, const fs::path& folder, const QString& file) 
     while (window.deals().busy())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     deals_desktop::DealList& list = window.deals().list();
-    std::vector<double> scrolls, moves, sorts;
+    std::vector<double> scrolls, moves;
     for (int page = 0; page < 100; ++page) {
         scrolls.push_back(painted(list, [&] {
             list.verticalScrollBar()->triggerAction(page < 50 ? QAbstractSlider::SliderPageStepAdd
@@ -63,11 +77,7 @@ void measure_steps(Report& report, const fs::path& folder, const QString& file) 
     }
     report.add_times("scrolling through 10,000 boards", scrolls, kStep, kStep);
     report.add_times("the next of 10,000 boards shown", moves, kStep, kStep);
-    for (int round = 0; round < kRounds; ++round) {
-        for (int column = 0; column < deals_desktop::DealModel::ColumnCount; ++column)
-            sorts.push_back(painted(list, [&] { list.sortByColumn(column, Qt::DescendingOrder); }));
-    }
-    report.add_median("sorting 10,000 boards", sorts, "ms", kStep);
+    report.add_median("sorting 10,000 boards by the worst column", worst_sort(list), "ms", kStep);
     window.deals().solve(false);
 }
 

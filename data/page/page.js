@@ -34,7 +34,7 @@ function readLesson(article) {
         for (let i = 0; i < kSeats; ++i) {
             const seat = (Number(row.dataset.leader) + i) % kSeats;
             const cell = cells[seat];
-            lesson.cards.push({seat, number: Number(cell.dataset.card), says: cell.dataset.says, cell,
+            lesson.cards.push({seat, number: Number(cell.dataset.card), says: cell.querySelector('.spoken').textContent, cell,
                                wonBy: i === kSeats - 1 ? Number(row.dataset.winner) : null});
         }
     }

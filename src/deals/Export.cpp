@@ -55,16 +55,20 @@ void tell(const Lesson& lesson, Format format, Report& report) {
         report.note(lesson.name + ": " + problem + "; " + left_out);
 }
 
-std::string file_of(const std::vector<Lesson>& lessons, Format format) {
-    if (format == Format::Page) return page::html(lessons);
+// A step is told of each lesson that is written, behind those of the reading.
+std::string file_of(const std::vector<Lesson>& lessons, Format format, Report& report) {
+    if (format == Format::Page)
+        return page::html(lessons, [&](std::size_t done) { report.step(lessons.size() + done, 2 * lessons.size()); });
     if (format == Format::Lin) {
         std::vector<exchange::Board> boards;
         std::ranges::transform(lessons, std::back_inserter(boards), &Lesson::board);
         return exchange::lin_file(boards);
     }
     std::string text = exchange::pbn_head();
-    for (const Lesson& lesson : lessons)
-        text += exchange::pbn_game(lesson) + "\r\n";
+    for (std::size_t done = 0; done < lessons.size(); ++done) {
+        report.step(lessons.size() + done, 2 * lessons.size());
+        text += exchange::pbn_game(lessons[done]) + "\r\n";
+    }
     return text;
 }
 
@@ -115,6 +119,7 @@ std::size_t export_lessons(const ExportOptions& options, Report& report) {
     std::vector<std::string> folders;
     std::vector<std::function<void()>> told;
     for (const std::string& word : options.lessons) {
+        report.step(told.size(), 2 * options.lessons.size());
         try {
             Chosen lesson = chosen(word, options.program_folder, format);
             folders.push_back(std::move(lesson.folder));
@@ -126,10 +131,12 @@ std::size_t export_lessons(const ExportOptions& options, Report& report) {
     }
     if (!lessons.empty()) {
         const std::string path = path_of(options.to);
-        if (format == Format::Paper) {
+        if (format == Format::Paper && options.paper) {
+            platform::replace_file(path, options.paper(lessons));
+        } else if (format == Format::Paper) {
             print(path, folders, options.mark_costly);
         } else {
-            platform::replace_file(path, file_of(lessons, format));
+            platform::replace_file(path, file_of(lessons, format, report));
         }
     }
     for (const Lesson& lesson : lessons)

@@ -29,6 +29,10 @@ public:
     void note(const std::string&) override {}
     void made(const std::string&) override {}
     void refused(const std::string&) override {}
+    void step(std::size_t done, std::size_t all) override {
+        if (progress) progress(done, all);
+    }
+    Progress progress{};
 };
 // The names of those that were written.
 class Written final : public Silence {
@@ -97,14 +101,17 @@ exchange::Lesson lesson_now(const std::string& name, const std::string& program_
     }
 }
 
-// For a lesson whose name tells no number: one with its very files; without files where there is none.
+// For a lesson whose name tells no number: one with its very files, or else one of the same hands; without files where
+// there is none.
 exchange::Lesson one_like(const exchange::Lesson& saved, const std::string& program_folder) {
+    exchange::Lesson of_same_hands;
     for (const std::string& folder : lesson_folders(program_folder)) {
         if (exchange::number_of_lesson(platform::last_part(folder)) > 0) continue;
         exchange::Lesson lesson = lesson_now(platform::last_part(folder), program_folder);
         if (same_files(lesson.files, saved.files)) return lesson;
+        if (saved.board.deal && lesson.board.deal == saved.board.deal) of_same_hands = std::move(lesson);
     }
-    return {};
+    return of_same_hands;
 }
 
 // A lesson that is gone comes back whole.
@@ -145,7 +152,7 @@ std::size_t save_all(const std::string& program_folder, const std::string& file,
 
 std::string copies_folder(const std::string& program_folder) { return platform::join_path(program_folder, "bewaard"); }
 
-bool keep_copy(const std::string& program_folder, const std::string& day) {
+bool keep_copy(const std::string& program_folder, const std::string& day, const Progress& progress) {
     const std::string folder = copies_folder(program_folder);
     const std::string name = "lessen " + day + ".pbn";
     if (lesson_folders(program_folder).empty()) return false;
@@ -153,6 +160,7 @@ bool keep_copy(const std::string& program_folder, const std::string& day) {
     const std::vector<std::string> before = copies_in(folder);
     if (std::ranges::find(before, name) != before.end()) return false;
     Silence silence;
+    silence.progress = progress;
     if (save_all(program_folder, platform::name_bytes(copy_in(folder, name)), silence) == 0) return false;
     const bool same = !before.empty() &&
                       platform::read_file(copy_in(folder, before.back())) == platform::read_file(copy_in(folder, name));
@@ -161,10 +169,11 @@ bool keep_copy(const std::string& program_folder, const std::string& day) {
     return !same;
 }
 
-std::vector<Difference> differences(const std::string& file, const std::string& program_folder) {
+std::vector<Difference> differences(const std::string& file, const std::string& program_folder,
+                                    const Progress& progress) {
     std::vector<Difference> found;
     bool any = false;
-    read_boards(file, [&](exchange::Board& board) {
+    const auto compare = [&](exchange::Board& board) {
         auto files = exchange::lesson_files(board, board.notes);
         if (files.empty()) return;
         any = true;
@@ -176,8 +185,10 @@ std::vector<Difference> differences(const std::string& file, const std::string& 
             found.push_back({.name = name, .gone = true, .files = saved.files});
         } else if (!same_files(saved.files, now.files)) {
             found.push_back(difference_between(saved, now));
+            found.back().name = now.name;  // which the file does not tell where it has no number
         }
-    });
+    };
+    read_boards(file, compare, {}, progress);
     if (!any) throw std::runtime_error("no lessons are in this file");
     return found;
 }
@@ -185,7 +196,7 @@ std::vector<Difference> differences(const std::string& file, const std::string& 
 namespace {
 
 // Makes a copy of all lessons under a name of its own; gives those that it holds.
-std::set<std::string> keep_before_replacing(const std::string& program_folder) {
+std::set<std::string> keep_before_replacing(const std::string& program_folder, Report& report) {
     const std::string folder = copies_folder(program_folder);
     platform::make_folders(folder);
     std::string name;
@@ -193,6 +204,7 @@ std::set<std::string> keep_before_replacing(const std::string& program_folder) {
     for (int number = 1; name.empty() || std::ranges::count(there, name) > 0; ++number)
         name = kBeforeReplacing + (" " + std::to_string(number)) + ".pbn";
     Written written;
+    written.progress = [&](std::size_t done, std::size_t all) { report.step(done, all); };
     save_all(program_folder, platform::name_bytes(copy_in(folder, name)), written);
     return written.names;
 }
@@ -203,8 +215,10 @@ void bring_back(const std::vector<Difference>& lessons, const std::string& progr
                 Report& report) {
     NewDeals deals(program_folder, report);
     std::set<std::string> kept;
-    if (how == BringBack::InPlace) kept = keep_before_replacing(program_folder);
+    if (how == BringBack::InPlace) kept = keep_before_replacing(program_folder, report);
+    std::size_t done = 0;
     for (const Difference& lesson : lessons) {
+        report.step(done++, lessons.size());
         if (how == BringBack::Beside || lesson.name.empty()) {
             deals.add(NewDeals::Kind::Lesson, lesson.files, lesson.name + ": ");
             continue;

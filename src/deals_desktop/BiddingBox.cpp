@@ -50,6 +50,7 @@ BiddingBox::BiddingBox() : back_(words::kTakeBack) {
 
 void BiddingBox::add_key(const exchange::Call& call, int row, int column) {
     Key key{call, std::make_unique<QPushButton>(dutch_text(call))};
+    key.button->setAccessibleName(spoken(call));
     key.button->setMaximumWidth(key.button->fontMetrics().averageCharWidth() * 8);
     connect(key.button.get(), &QPushButton::clicked, this, [this, call] {
         exchange::Auction longer = auction_;

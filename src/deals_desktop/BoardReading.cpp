@@ -1,6 +1,7 @@
 #include "deals_desktop/BoardReading.h"
 
 #include <QElapsedTimer>
+#include <algorithm>
 
 #include "deals/BoardFile.h"
 #include "deals/Telling.h"
@@ -24,10 +25,14 @@ public:
     void read(const std::string& path) {
         const QString name = name_of(path);
         int number = 0;
+        percent_ = 0;
         try {
-            deals::read_boards(path, [&](exchange::Board& board) {
+            const auto take_board = [&](exchange::Board& board) {
                 if (course_.stopped()) throw Enough();
                 take(board, path, name.toStdString(), ++number);
+            };
+            deals::read_boards(path, take_board, {}, [this](std::size_t bytes, std::size_t all) {
+                percent_ = static_cast<int>(bytes * 100 / std::max<std::size_t>(all, 1));
             });
             tell(words::kRead.arg(name, number == 1 ? words::kOneDeal : words::kManyDeals.arg(number)));
         } catch (const Enough&) {
@@ -44,7 +49,8 @@ private:
             told_.push_back({deals::note_of(name, board, number, note), {}});
         if (board.error) told_.push_back({deals::note_of(name, board, number, *board.error), {}});
         Entry entry{.path = path, .number = number};
-        entry.read = entry.board = std::make_shared<const exchange::Board>(std::move(board));
+        entry.read = std::make_shared<const exchange::Board>(std::move(board));
+        set_board(entry, entry.read);
         entries_.push_back(std::move(entry));
         if (since_.elapsed() >= kBetweenParts) hand_over();
     }
@@ -53,7 +59,7 @@ private:
 
     void hand_over() {
         since_.restart();
-        course_.tell(0, 0);
+        course_.tell(percent_, 100);
         course_.in_window([to = to_, entries = std::move(entries_), told = std::move(told_)]() mutable {
             to.told(std::move(told));
             if (!entries.empty()) to.entries(std::move(entries));
@@ -65,6 +71,7 @@ private:
     Work::Course& course_;
     const ReadingTo& to_;
     QElapsedTimer since_;
+    int percent_ = 0;  // of this file
     std::vector<Entry> entries_;
     std::vector<Messages::Told> told_;
 };

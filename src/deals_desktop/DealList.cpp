@@ -8,7 +8,7 @@ namespace deals_desktop {
 namespace {
 
 // Widths of columns, in letters.
-constexpr int kLetters[DealModel::ColumnCount] = {25, 8, 5, 8, 7, 7, 8, 4, 20};
+constexpr int kLetters[DealModel::ColumnCount] = {20, 8, 5, 8, 7, 7, 8, 4, 20};
 
 }  // namespace
 
@@ -23,9 +23,19 @@ DealList::DealList(DealModel& model, const QString& accessible_name) : model_(mo
     header()->setSortIndicator(-1, Qt::AscendingOrder);
     header()->setSortIndicatorClearable(true);
     setSortingEnabled(true);
+    letter_ = fontMetrics().averageCharWidth();
+    for (int column = 0; column < DealModel::ColumnCount; ++column)
+        header()->resizeSection(column, (kLetters[column] + 2) * letter_);
+}
+
+// Columns keep the widths that the user gave them, in letters.
+void DealList::changeEvent(QEvent* event) {
+    QTreeView::changeEvent(event);
+    if (event->type() != QEvent::FontChange || letter_ == 0) return;
     const int letter = fontMetrics().averageCharWidth();
     for (int column = 0; column < DealModel::ColumnCount; ++column)
-        header()->resizeSection(column, (kLetters[column] + 2) * letter);
+        header()->resizeSection(column, header()->sectionSize(column) * letter / letter_);
+    letter_ = letter;
 }
 
 std::vector<int> DealList::chosen_entries() const { return model_.entries_of(selectionModel()->selectedRows()); }
@@ -44,6 +54,12 @@ void DealList::choose(int entry) {
     const QModelIndex line = model_.index_of(entry);
     setCurrentIndex(line);
     scrollTo(line);
+}
+
+void DealList::sort_by(int column) {
+    const bool again = header()->sortIndicatorSection() == column;
+    const bool down = again && header()->sortIndicatorOrder() == Qt::DescendingOrder;
+    sortByColumn(down ? -1 : column, again && !down ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
 void DealList::currentChanged(const QModelIndex& now, const QModelIndex& before) {

@@ -18,6 +18,8 @@ public:
     // As the first of them is not.
     void tick_chosen();
     void choose(int entry);
+    // As a click on the column's head: up, then down, then the order in which they were read.
+    void sort_by(int column);
 
     // The entry whose line the user comes to; -1 for none.
     std::function<void(int entry)> Chosen;
@@ -25,9 +27,11 @@ public:
 protected:
     void currentChanged(const QModelIndex& now, const QModelIndex& before) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     DealModel& model_;
+    int letter_ = 0;  // for which the columns are wide enough
 };
 
 }  // namespace deals_desktop

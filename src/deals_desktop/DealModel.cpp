@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <compare>
 #include <numeric>
-#include <tuple>
+#include <string_view>
+#include <utility>
 
 #include "deals_desktop/FileNames.h"
 #include "deals_desktop/Notation.h"
@@ -13,18 +14,12 @@ namespace deals_desktop {
 
 namespace {
 
-// What a column is sorted by: numbers before words.
-using SortKey = std::pair<int, std::string>;
+// What a column is sorted by: numbers before words. The text is the entry's own.
+using SortKey = std::pair<int, std::string_view>;
 
 int number_in(const std::string& text) {
     const std::size_t digit = text.find_first_of("0123456789");
     return digit == std::string::npos ? 0 : std::atoi(text.c_str() + digit);
-}
-
-// Tricks of the declarer: as told, or as played.
-std::optional<int> made(const exchange::Board& board) {
-    if (board.result || !board.contract || !board.play || !board.play->complete()) return board.result;
-    return board.play->tricks_of(board.contract->declarer, board.contract->trump());
 }
 
 // Whether the last column has nothing to say.
@@ -37,8 +32,7 @@ SortKey key_of(const Entry& entry, int column) {
     const exchange::Board& board = *entry.board;
     switch (column) {
         case DealModel::Name:
-            return entry.name.isEmpty() ? SortKey{number_in(board.board), board.board}
-                                        : SortKey{0, entry.name.toStdString()};
+            return entry.name.isEmpty() ? SortKey{number_in(board.board), board.board} : SortKey{0, entry.path};
         case DealModel::Contract:
             if (!board.contract) return {board.passed_out ? 0 : -1, {}};
             return {board.contract->bid.level * 100 + static_cast<int>(board.contract->bid.strain) * 10 +
@@ -55,15 +49,18 @@ SortKey key_of(const Entry& entry, int column) {
         case DealModel::Texts:
             return {static_cast<int>(board.texts.size()), {}};
         case DealModel::Tricks:
-            return {made(board).value_or(-1), {}};
+            return {entry.made.value_or(-1), {}};
         case DealModel::Best:
             return {entry.best ? entry.best->tricks : -1, {}};
         default:
             if (!entry.problems.empty()) return {2, entry.problems.front()};
             if (board.error) return {2, board.error->text};
-            return {is_silent(entry) ? 0 : 1, board.unfit ? board.unfit->text : std::string()};
+            return {is_silent(entry) ? 0 : 1, board.unfit ? std::string_view(board.unfit->text) : std::string_view()};
     }
 }
+
+// Of no file, and no lesson.
+bool is_own(const Entry& entry) { return entry.path.empty() && entry.name.isEmpty(); }
 
 QString number(const std::optional<int>& value) { return value ? QString::number(*value) : QString(); }
 
@@ -74,6 +71,18 @@ QString DealModel::name_of(int entry) const {
     if (!told.name.isEmpty()) return told.name;
     const std::string& board = told.board->board;
     return board.empty() ? words::kDealWithoutBoard.arg(told.number) : words::kDeal.arg(QString::fromStdString(board));
+}
+
+Entry DealModel::common_at(const QModelIndex& head) const {
+    const exchange::Board& first = *entries_[static_cast<std::size_t>(group_at(head).front())].board;
+    exchange::Board board;
+    board.board = first.board;
+    board.dealer = first.dealer;
+    board.vulnerable = first.vulnerable;
+    board.deal = first.deal;
+    Entry common{.path = entries_[static_cast<std::size_t>(group_at(head).front())].path};
+    common.read = common.board = std::make_shared<const exchange::Board>(std::move(board));
+    return common;
 }
 
 const DealModel::Group& DealModel::group_at(const QModelIndex& index) const {
@@ -113,10 +122,10 @@ int DealModel::rowCount(const QModelIndex& parent) const {
 
 int DealModel::columnCount(const QModelIndex&) const { return ColumnCount; }
 
-// Lessons, and boards without a number, stand alone.
+// Lessons, what was typed in, and boards without a number stand alone.
 std::size_t DealModel::group_for(const Entry& entry) {
     const exchange::Board& board = *entry.board;
-    if (!entry.name.isEmpty() || board.board.empty() || !board.deal) return groups_.size();
+    if (is_own(entry) || !entry.name.isEmpty() || board.board.empty() || !board.deal) return groups_.size();
     std::vector<std::size_t>& candidates = by_board_[{entry.path, board.board}];
     for (const std::size_t group : candidates) {
         if (entries_[static_cast<std::size_t>(groups_[group].front())].board->deal == board.deal) return group;
@@ -137,8 +146,11 @@ void DealModel::add(std::vector<Entry> entries) {
         } else {
             groups_[group].push_back(number);
         }
+        entry.unsaved = is_own(entry);
         entries_.push_back(std::move(entry));
         group_of_.push_back(group);
+        tables_.resize(groups_.size());
+        table_of_.push_back(++tables_[group]);
     }
     if (groups_.size() > groups_before) {
         beginInsertRows({}, static_cast<int>(groups_before), static_cast<int>(groups_.size()) - 1);
@@ -169,6 +181,8 @@ void DealModel::clear() {
     entries_.clear();
     group_of_.clear();
     groups_.clear();
+    table_of_.clear();
+    tables_.clear();
     shown_.clear();
     row_of_.clear();
     by_board_.clear();
@@ -183,16 +197,45 @@ void DealModel::entry_changed(int entry) {
 
 void DealModel::set_board(int entry, SharedBoard read, const exchange::Additions& additions) {
     Entry& changed = entries_[static_cast<std::size_t>(entry)];
-    changed.board = std::make_shared<const exchange::Board>(exchange::with(*read, additions));
+    deals_desktop::set_board(changed, std::make_shared<const exchange::Board>(exchange::with(*read, additions)));
     changed.read = std::move(read);
     changed.additions = additions;
     changed.best.reset();
+    changed.unsaved = is_own(changed);
     entry_changed(entry);
 }
 
 void DealModel::set_own_board(int entry, SharedBoard board) {
+    leave_group(entry);
     entries_[static_cast<std::size_t>(entry)].path.clear();
     set_board(entry, std::move(board), {});
+}
+
+// Its deal is another by now: it stands alone, behind the group.
+void DealModel::leave_group(int entry) {
+    const std::size_t group = group_of_[static_cast<std::size_t>(entry)];
+    if (groups_[group].size() == 1) {
+        for (auto& [board, candidates] : by_board_)
+            std::erase(candidates, group);
+        return;
+    }
+    Group& all = groups_[group];
+    const QModelIndex head = createIndex(row_of_[group], 0, quintptr(0));
+    const auto place = static_cast<int>(std::ranges::find(all, entry) - all.begin());
+    const bool two = all.size() == 2;  // the other one stands alone then
+    beginRemoveRows(head, two ? 0 : place, two ? 1 : place);
+    std::erase(all, entry);
+    endRemoveRows();
+    emit dataChanged(head, head.siblingAtColumn(ColumnCount - 1));
+    const int row = row_of_[group] + 1;
+    beginInsertRows({}, row, row);
+    group_of_[static_cast<std::size_t>(entry)] = groups_.size();
+    shown_.insert(shown_.begin() + row, groups_.size());
+    groups_.push_back({entry});
+    tables_.push_back(1);
+    row_of_.push_back(row);
+    number_rows();
+    endInsertRows();
 }
 
 void DealModel::set_best(int entry, const SharedBoard& board, std::optional<exchange::BestPlay> best) {
@@ -201,6 +244,20 @@ void DealModel::set_best(int entry, const SharedBoard& board, std::optional<exch
     if (changed.board != board) return;
     changed.best = std::move(best);
     entry_changed(entry);
+}
+
+std::vector<int> DealModel::unsaved() const {
+    std::vector<int> all;
+    for (std::size_t entry = 0; entry < entries_.size(); ++entry) {
+        if (entries_[entry].unsaved) all.push_back(static_cast<int>(entry));
+    }
+    return all;
+}
+
+void DealModel::set_saved(const std::vector<SharedBoard>& boards) {
+    for (Entry& entry : entries_) {
+        if (entry.unsaved && std::ranges::find(boards, entry.board) != boards.end()) entry.unsaved = false;
+    }
 }
 
 std::vector<int> DealModel::ticked() const {
@@ -250,11 +307,7 @@ QString DealModel::text(int entry, Column column, bool table) const {
     const exchange::Board& board = *shown.board;
     switch (column) {
         case Name: {
-            if (table) {
-                const Group& group = groups_[group_of_[static_cast<std::size_t>(entry)]];
-                const auto number = std::ranges::count_if(group, [&](int other) { return other <= entry; });
-                return words::kTable.arg(number);
-            }
+            if (table) return words::kTable.arg(table_of_[static_cast<std::size_t>(entry)]);
             if (!shown.name.isEmpty()) return shown.name;
             return board.board.empty() ? words::kDealWithoutBoard.arg(shown.number)
                                        : QString::fromStdString(board.board);
@@ -273,7 +326,7 @@ QString DealModel::text(int entry, Column column, bool table) const {
         case Texts:
             return board.texts.empty() ? QString() : QString::number(board.texts.size());
         case Tricks:
-            return number(made(board));
+            return number(shown.made);
         case Best:
             return shown.best ? QString::number(shown.best->tricks) : QString();
         default:
@@ -281,10 +334,19 @@ QString DealModel::text(int entry, Column column, bool table) const {
     }
 }
 
+// The same in words where there are symbols.
+QString DealModel::spoken_text(int entry, Column column, bool table) const {
+    const exchange::Board& board = *entries_[static_cast<std::size_t>(entry)].board;
+    if (column == Contract && board.contract) return spoken(*board.contract);
+    if (column == Declarer && board.contract) return dutch_word(board.contract->declarer);
+    const auto lead = exchange::lead_of(board);
+    return column == Lead && lead ? spoken(*lead) : text(entry, column, table);
+}
+
 QVariant DealModel::head_data(const Group& group, int column, int role) const {
     const Entry& first = entries_[static_cast<std::size_t>(group.front())];
     if (column != Name) return {};
-    if (role == Qt::DisplayRole)
+    if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole)
         return words::kTables.arg(QString::fromStdString(first.board->board)).arg(group.size());
     if (role != Qt::CheckStateRole) return {};
     const auto ticked =
@@ -304,6 +366,8 @@ QVariant DealModel::data(const QModelIndex& index, int role) const {
     switch (role) {
         case Qt::DisplayRole:
             return text(entry, column, index.internalId() != 0);
+        case Qt::AccessibleTextRole:
+            return spoken_text(entry, column, index.internalId() != 0);
         case Qt::CheckStateRole:
             return column == Name ? QVariant(shown.ticked ? Qt::Checked : Qt::Unchecked) : QVariant();
         case Qt::ToolTipRole:
@@ -335,6 +399,7 @@ bool DealModel::setData(const QModelIndex& index, const QVariant& value, int rol
 void DealModel::sort(int column, Qt::SortOrder order) {
     sort_column_ = column;
     sort_order_ = order;
+    // What the views hold on to goes with its lines.
     emit layoutAboutToBeChanged({}, VerticalSortHint);
     const QModelIndexList before = persistentIndexList();
     std::vector<std::pair<std::size_t, int>> kept;  // group, and entry; -1 for its head
@@ -356,18 +421,38 @@ void DealModel::sort(int column, Qt::SortOrder order) {
 
 // A group goes by its first line; what is equal stays in the order in which it was read.
 void DealModel::sort_groups() {
-    std::vector<SortKey> keys;
-    keys.reserve(entries_.size());
-    for (const Entry& entry : entries_)
-        keys.push_back(sort_column_ < 0 ? SortKey() : key_of(entry, sort_column_));
-    const auto before = [&](int one, int other) {
-        const auto compared = keys[static_cast<std::size_t>(one)] <=> keys[static_cast<std::size_t>(other)];
-        if (compared == 0) return one < other;
+    struct Line {
+        SortKey key;
+        int entry;
+        std::size_t group;
+    };
+    const auto line_of = [&](int entry, std::size_t group) {
+        return Line{sort_column_ < 0 ? SortKey() : key_of(entries_[static_cast<std::size_t>(entry)], sort_column_),
+                    entry, group};
+    };
+    const auto before = [&](const Line& one, const Line& other) {
+        const auto compared = one.key <=> other.key;
+        if (compared == 0) return one.entry < other.entry;
         return sort_order_ == Qt::AscendingOrder ? std::is_lt(compared) : std::is_gt(compared);
     };
-    for (Group& group : groups_)
-        std::ranges::sort(group, before);
-    std::ranges::sort(shown_, before, [&](std::size_t group) { return groups_[group].front(); });
+    std::vector<Line> heads;
+    heads.reserve(groups_.size());
+    std::vector<Line> tables;
+    for (std::size_t number = 0; number < groups_.size(); ++number) {
+        Group& group = groups_[number];
+        tables.clear();
+        for (const int entry : group)
+            tables.push_back(line_of(entry, number));
+        std::ranges::sort(tables, before);
+        std::ranges::transform(tables, group.begin(), &Line::entry);
+        heads.push_back(tables.front());
+    }
+    std::ranges::sort(heads, before);
+    std::ranges::transform(heads, shown_.begin(), &Line::group);
+    number_rows();
+}
+
+void DealModel::number_rows() {
     for (std::size_t row = 0; row < shown_.size(); ++row)
         row_of_[shown_[row]] = static_cast<int>(row);
 }

@@ -5,9 +5,9 @@
 #include <QHeaderView>
 #include <QVBoxLayout>
 
+#include "deals_desktop/FileNames.h"
 #include "deals_desktop/Notation.h"
 #include "deals_desktop/Words.h"
-#include "exchange/DealWords.h"
 
 namespace deals_desktop {
 
@@ -48,8 +48,7 @@ QString spoken_hand(const exchange::Hand& hand, exchange::Seat seat) {
     QStringList suits;
     for (const exchange::Suit suit : exchange::kSuits) {
         const QString held = ranks(hand, suit);
-        suits.append(QString::fromStdString(exchange::word_of(suit)).toLower() + QLatin1Char(' ') +
-                     (held.isEmpty() ? words::kVoid : held));
+        suits.append(spoken(suit) + QLatin1Char(' ') + (held.isEmpty() ? words::kVoid : held));
     }
     return dutch_word(seat) + QStringLiteral(": ") +
            (hand.empty() ? words::kHandUnknown : suits.join(QStringLiteral(", ")));
@@ -73,6 +72,7 @@ DealPane::DealPane() {
     title_.setWordWrap(true);
     layout->addWidget(&title_);
     layout->addWidget(make_table());
+    best_.setTextFormat(Qt::PlainText);
     best_.setWordWrap(true);
     layout->addWidget(&best_);
     play_.setModel(&play_model_);
@@ -84,9 +84,8 @@ DealPane::DealPane() {
         play_.horizontalHeader()->setSectionResizeMode(column,
                                                        card ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
     }
-    play_.setMinimumWidth(play_.fontMetrics().averageCharWidth() * kPlayLetters);  // a card with both marks is seen
-    play_.verticalHeader()->setDefaultSectionSize(play_.fontMetrics().height() * 5 / 4);
     play_.verticalHeader()->setMinimumSectionSize(1);
+    fit_to_font();
     texts_.setReadOnly(true);
     texts_.setTabChangesFocus(true);
     texts_.setAccessibleName(words::kTextsSpoken);
@@ -95,6 +94,11 @@ DealPane::DealPane() {
     tabs_.setDocumentMode(true);
     layout->addWidget(&tabs_, 1);
     show_all();
+}
+
+void DealPane::fit_to_font() {
+    play_.setMinimumWidth(fontMetrics().averageCharWidth() * kPlayLetters);  // a card with both marks is seen
+    play_.verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 5 / 4);
 }
 
 QWidget* DealPane::make_table() {
@@ -108,6 +112,7 @@ QWidget* DealPane::make_table() {
         const auto [row, column] = kPlaces[static_cast<std::size_t>(index_of(seat))];
         grid->addWidget(&hand, row, column);
     }
+    middle_.setTextFormat(Qt::PlainText);
     middle_.setAlignment(Qt::AlignCenter);
     grid->addWidget(&middle_, 1, 1);
     make_readable(bidding_, words::kBidding);
@@ -144,6 +149,8 @@ void DealPane::show_all() {
         title += QStringLiteral(": ") +
                  coloured(words::kBy.arg(dutch_text(*board.contract), dutch_word(board.contract->declarer)), palette());
     }
+    if (shown_.name.isEmpty() && !shown_.path.empty())
+        title += QStringLiteral(" \u2013 ") + deals_desktop::name_of(shown_.path).toHtmlEscaped();
     const QString remark = remark_of(shown_);
     title_.setText(remark.isEmpty() ? title : title + QStringLiteral("<br>") + coloured(remark, palette()));
     show_hands(board);
@@ -189,6 +196,7 @@ void DealPane::show_play() {
 void DealPane::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) show_all();
+    if (event->type() == QEvent::FontChange) fit_to_font();
 }
 
 }  // namespace deals_desktop

@@ -25,6 +25,7 @@ protected:
 
 private:
     QWidget* make_table();
+    void fit_to_font();
     void show_hands(const exchange::Board& board);
     void show_bidding(const exchange::Board& board);
     void show_texts(const exchange::Board& board);

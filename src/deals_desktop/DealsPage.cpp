@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <algorithm>
 
+#include "deals_desktop/Asking.h"
 #include "deals_desktop/BoardReading.h"
 #include "deals_desktop/DealEditor.h"
 #include "deals_desktop/FileNames.h"
@@ -74,7 +75,19 @@ void DealsPage::open(const QStringList& files) {
 }
 
 void DealsPage::clear_list() {
-    if (!busy()) clear();
+    if (!busy()) ask_about_typed(words::kClearAnyway, [this] { clear(); });
+}
+
+void DealsPage::ask_about_typed(const QString& anyway, std::function<void()> then) {
+    const std::vector<int> typed = model().unsaved();
+    if (typed.empty()) return then();
+    const QString question =
+        typed.size() == 1 ? words::kTypedGo.arg(words::kOneDeal) : words::kManyTypedGo.arg(typed.size());
+    const QString answer = ask(this, question, {words::kKeepTyped, anyway, words::kStay});
+    if (answer == anyway) return then();
+    if (answer != words::kKeepTyped) return;
+    const QString file = ask_where_to_write(this, words::kSaveTitle, {}, words::kSaveFilter, as_pbn);
+    if (!file.isEmpty()) save(typed, file, std::move(then));
 }
 
 void DealsPage::make_new() {
@@ -82,7 +95,8 @@ void DealsPage::make_new() {
     editor->setAttribute(Qt::WA_DeleteOnClose);
     editor->Taken = [this](const exchange::Board& board) {
         Entry entry{.number = ++made_};
-        entry.read = entry.board = std::make_shared<const exchange::Board>(board);
+        entry.read = std::make_shared<const exchange::Board>(board);
+        deals_desktop::set_board(entry, entry.read);
         add_entries({entry});
         list().choose(static_cast<int>(model().entries().size()) - 1);
     };
@@ -104,24 +118,30 @@ void DealsPage::save_to_file() {
     if (!file.isEmpty()) save_to(file);
 }
 
-void DealsPage::save_to(const QString& file) {
+void DealsPage::save(const std::vector<int>& entries, const QString& file, std::function<void()> then) {
     std::vector<SharedBoard> boards;
-    for (const int entry : list().wanted())
+    for (const int entry : entries)
         boards.push_back(model().entries()[static_cast<std::size_t>(entry)].board);
     const QString name = QFileInfo(file).fileName();
+    const auto written = std::make_shared<bool>(false);
     work().start(
         words::kSaving.arg(name),
-        [this, boards, name, path = platform::name_text(path_of(file))](Work::Course& course) {
+        [boards, written, path = platform::name_text(path_of(file))](Work::Course& course) {
             std::string text = exchange::pbn_head();
-            for (const SharedBoard& board : boards)
-                text += exchange::pbn_game(*board) + "\r\n";
+            for (std::size_t done = 0; done < boards.size(); ++done) {
+                course.step(done, boards.size());
+                text += exchange::pbn_game(*boards[done]) + "\r\n";
+            }
             platform::replace_file(path, text);
-            course.in_window([this, name, count = boards.size()] {
-                messages().add(count == 1 ? words::kOneDealWritten.arg(name)
-                                          : words::kDealsWritten.arg(count).arg(name));
-            });
+            *written = true;
         },
-        [] {});
+        [this, boards, written, name, then = std::move(then)] {
+            if (!*written) return;
+            model().set_saved(boards);
+            messages().add(boards.size() == 1 ? words::kOneDealWritten.arg(name)
+                                              : words::kDealsWritten.arg(boards.size()).arg(name));
+            then();
+        });
 }
 
 void DealsPage::import() {
@@ -146,8 +166,16 @@ void DealsPage::import() {
                 import.add(*entry.read, entry.additions, file.toStdString(), entry.number);
             }
             deals.finish();
+            course.step(entries.size(), entries.size());  // tells that it was stopped
         },
-        [this, report, wanted] { take_outcomes(wanted, report->outcomes()); });
+        [this, report, wanted, entries] {
+            std::vector<SharedBoard> made;
+            for (std::size_t i = 0; i < report->outcomes().size(); ++i) {
+                if (report->outcomes()[i]) made.push_back(entries[i].board);
+            }
+            model().set_saved(made);
+            take_outcomes(wanted, report->outcomes());
+        });
 }
 
 // What was made is no longer ticked: the next import takes the rest.

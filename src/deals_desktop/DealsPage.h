@@ -20,17 +20,24 @@ public:
     void open(const QStringList& files);
     void ask_for_files();
     void clear_list();
+    // Asks about deals that were typed in and would be lost; `then` is done where none are, where they are saved, or
+    // where the user says so by that word.
+    void ask_about_typed(const QString& anyway, std::function<void()> then);
     // A deal is typed in, or the chosen one mended.
     void make_new();
     void change();
     // Writes what is ticked, or else chosen, into a file of PBN.
     void save_to_file();
-    void save_to(const QString& file);
+    void save_to(const QString& file) {
+        save(list().wanted(), file, [] {});
+    }
     // Makes deals or lessons of what is ticked, or else chosen.
     void import();
 
 private:
     void make_buttons();
+    // `then` is done once they are written.
+    void save(const std::vector<int>& entries, const QString& file, std::function<void()> then);
     void take_outcomes(const std::vector<int>& entries, const std::vector<bool>& outcomes);
     void fill(const exchange::Additions& additions);
     void entry_shown(const Entry* entry) override;

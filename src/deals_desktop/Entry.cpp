@@ -9,11 +9,21 @@ namespace deals_desktop {
 
 namespace {
 
+std::optional<int> made(const exchange::Board& board) {
+    if (board.result || !board.contract || !board.play || !board.play->complete()) return board.result;
+    return board.play->tricks_of(board.contract->declarer, board.contract->trump());
+}
+
 bool may_be_told_more(const exchange::Board& board) {
     return board.deal && !board.error && !board.unfit && !board.passed_out;
 }
 
 }  // namespace
+
+void set_board(Entry& entry, SharedBoard board) {
+    entry.made = made(*board);
+    entry.board = std::move(board);
+}
 
 QString remark_of(const Entry& entry) {
     QStringList remarks;

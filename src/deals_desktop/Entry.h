@@ -22,11 +22,16 @@ struct Entry {
     SharedBoard read{};  // as the file gives it
     exchange::Additions additions{};
     SharedBoard board{};                  // with them
+    std::optional<int> made{};            // tricks of the declarer: as told, or as played
     std::vector<std::string> problems{};  // of a lesson's record
     std::size_t state = 0;                // of a lesson's files: another one where they changed
     std::optional<exchange::BestPlay> best{};
     bool ticked = false;
+    bool unsaved = false;  // typed in, and in no file yet
 };
+
+// Gives the entry that board, and what is worked out of it once.
+void set_board(Entry& entry, SharedBoard board);
 
 // What keeps it from being a deal, or what of a lesson is against the rules; in Dutch, empty where it is sound.
 QString remark_of(const Entry& entry);

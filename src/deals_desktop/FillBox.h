@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <functional>
 
+#include "deals_desktop/ContractBox.h"
 #include "deals_desktop/Entry.h"
 
 namespace deals_desktop {
@@ -25,7 +26,8 @@ private:
     SharedBoard board_{};
     bool asks_contract_ = false;
     bool asks_lead_ = false;
-    QComboBox level_, strain_, doubling_, declarer_, lead_;
+    ContractBox contract_;
+    QComboBox lead_;
     QPushButton fill_;
     QWidget* contract_row_ = nullptr;
     QWidget* lead_row_ = nullptr;

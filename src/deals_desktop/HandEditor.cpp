@@ -4,7 +4,6 @@
 
 #include "deals_desktop/Notation.h"
 #include "deals_desktop/Words.h"
-#include "exchange/DealWords.h"
 
 namespace deals_desktop {
 
@@ -27,14 +26,14 @@ HandEditor::HandEditor(exchange::Seat seat) : QGroupBox(dutch_word(seat)) {
     grid->setVerticalSpacing(2);
     for (const exchange::Suit suit : exchange::kSuits) {
         QLineEdit& field = suits_[static_cast<std::size_t>(index_of(suit))];
-        field.setAccessibleName(dutch_word(seat) + QLatin1Char(' ') +
-                                QString::fromStdString(exchange::word_of(suit)).toLower());
+        field.setAccessibleName(dutch_word(seat) + QLatin1Char(' ') + spoken(suit));
         field.setMinimumWidth(field.fontMetrics().averageCharWidth() * kFieldLetters);
         auto* const symbol = new QLabel(coloured(symbol_of(suit), palette()));
         grid->addWidget(symbol, index_of(suit), 0);
         grid->addWidget(&field, index_of(suit), 1);
         connect(&field, &QLineEdit::textEdited, this, [this] { Changed(); });
     }
+    problem_.setTextFormat(Qt::PlainText);
     problem_.setWordWrap(true);
     problem_.setMinimumHeight(problem_.fontMetrics().lineSpacing() * kProblemLines);
     problem_.setAlignment(Qt::AlignLeft | Qt::AlignTop);
@@ -64,8 +63,10 @@ bool HandEditor::is_empty() const {
 void HandEditor::tell(const QString& problem) {
     QString told = problem;
     for (const exchange::Suit suit : exchange::kSuits) {
-        const QString text = suits_[static_cast<std::size_t>(index_of(suit))].text();
-        if (!typed_suit(suit, text)) told = words::kNoCards.arg(symbol_of(suit), text);
+        QLineEdit& field = suits_[static_cast<std::size_t>(index_of(suit))];
+        const bool readable = typed_suit(suit, field.text()).has_value();
+        if (!readable) told = words::kNoCards.arg(symbol_of(suit), field.text());
+        field.setAccessibleDescription(readable ? problem : words::kNoCards.arg(spoken(suit), field.text()));
     }
     problem_.setText(told);
 }

@@ -17,7 +17,8 @@ Entry entry_of(const std::string& folder) {
     Entry entry{.path = platform::name_bytes(folder), .name = QString::fromStdString(lesson.name)};
     for (const exchange::DealFile& file : lesson.files)
         entry.state = entry.state * 31 + std::hash<std::string>()(file.suffix + file.bytes);
-    entry.read = entry.board = std::make_shared<const exchange::Board>(std::move(lesson.board));
+    entry.read = std::make_shared<const exchange::Board>(std::move(lesson.board));
+    set_board(entry, entry.read);
     entry.problems = std::move(lesson.problems);
     return entry;
 }

@@ -1,6 +1,5 @@
 #include "deals_desktop/LessonsPage.h"
 
-#include <QCheckBox>
 #include <QDate>
 #include <QFileDialog>
 #include <QPrintDialog>
@@ -8,6 +7,7 @@
 #include <stdexcept>
 
 #include "deals/Export.h"
+#include "deals/Telling.h"
 #include "deals_desktop/FileNames.h"
 #include "deals_desktop/LessonReading.h"
 #include "deals_desktop/RestoreDialog.h"
@@ -17,6 +17,8 @@
 #include "page/Page.h"
 #include "paper/Paper.h"
 #include "platform/CodePage.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
 
 namespace deals_desktop {
 
@@ -54,14 +56,43 @@ QString with_known_ending(const QString& file, const QString& filter) {
 std::vector<exchange::Lesson> printable(const std::vector<std::string>& folders, deals::Report& report) {
     std::vector<exchange::Lesson> lessons;
     for (const std::string& folder : folders) {
-        exchange::Lesson lesson = exchange::read_lesson(folder);
-        if (const std::string why = page::refusal(lesson); !why.empty()) {
-            report.refused(lesson.name + ": " + why);
-        } else {
+        report.step(lessons.size(), 2 * folders.size());
+        try {
+            exchange::Lesson lesson = exchange::read_lesson(folder);
+            if (const std::string why = page::refusal(lesson); !why.empty())
+                throw std::runtime_error(platform::from_utf8(why));
             lessons.push_back(std::move(lesson));
+        } catch (const std::exception& failure) {
+            report.refused(platform::to_utf8(platform::last_part(folder)) + ": " + deals::english(failure));
         }
     }
     return lessons;
+}
+
+deals::Progress progress_of(Work::Course& course) {
+    return [&course](std::size_t done, std::size_t all) { course.step(done, all); };
+}
+
+// How the sheets are made: half of the work, the other being the reading.
+paper::Options paper_options(bool mark_costly, std::size_t lessons, deals::Report& report) {
+    return {.mark_costly = mark_costly,
+            .between = [lessons, &report](std::size_t done) { report.step(lessons + done, 2 * lessons); }};
+}
+
+// A file is replaced whole; what else a printer was given is taken back as far as it can be.
+void print_lessons(const std::vector<exchange::Lesson>& lessons, QPrinter& printer, const paper::Options& options) {
+    if (printer.outputFormat() == QPrinter::PdfFormat) {
+        const std::string path = platform::name_text(path_of(printer.outputFileName()));
+        return platform::replace_file(path, paper::pdf(lessons, options, printer.pageLayout().pageSize()));
+    }
+    printer.setFullPage(true);
+    try {
+        paper::print(lessons, printer, options);
+    } catch (const std::exception&) {
+        printer.abort();
+        throw;
+    }
+    if (printer.printerState() == QPrinter::Error) throw std::runtime_error("the printer failed");
 }
 
 }  // namespace
@@ -72,11 +103,14 @@ LessonsPage::LessonsPage(const std::string& program_folder)
       save_(words::kSaveAll),
       restore_(words::kRestore),
       print_(words::kPrint),
-      export_(words::kExport) {
+      export_(words::kExport),
+      mark_costly_(words::kMarkCostly) {
+    mark_costly_.setToolTip(words::kMarkCostlyTip);
     buttons().addWidget(&refresh_);
     buttons().addStretch();
     buttons().addWidget(&save_);
     buttons().addWidget(&restore_);
+    buttons().addWidget(&mark_costly_);
     buttons().addWidget(&print_);
     buttons().addWidget(&export_);
     connect(&refresh_, &QPushButton::clicked, this, [this] { refresh(); });
@@ -130,9 +164,12 @@ void LessonsPage::export_to_file() {
 }
 
 void LessonsPage::export_to(const QString& file) {
-    const deals::ExportOptions options{
-        .lessons = wanted_folders(), .to = path_of(file), .program_folder = program_folder()};
     const auto report = std::make_shared<TellingReport>(messages(), words::kWritten);
+    deals::ExportOptions options{.lessons = wanted_folders(), .to = path_of(file), .program_folder = program_folder()};
+    options.mark_costly = mark_costly_.isChecked() && file.endsWith(words::kPdf, Qt::CaseInsensitive);
+    options.paper = [report, costly = options.mark_costly](const std::vector<exchange::Lesson>& lessons) {
+        return paper::pdf(lessons, paper_options(costly, lessons.size(), *report));
+    };
     const QString name = QFileInfo(file).fileName();
     work().start(
         words::kExporting.arg(name),
@@ -160,23 +197,18 @@ void LessonsPage::print() {
     printer->setPageSize(QPageSize(QPageSize::A4));
     QPrintDialog dialog(printer.get(), this);
     dialog.setWindowTitle(words::kPrintTitle);
-    QCheckBox mark_costly(words::kMarkCostly);
-    mark_costly.setWindowTitle(words::kLessons);
-    dialog.setOptionTabs({&mark_costly});
-    if (dialog.exec() == QDialog::Accepted) print_on(printer, mark_costly.isChecked());
+    if (dialog.exec() == QDialog::Accepted) print_on(printer);
 }
 
-void LessonsPage::print_on(const std::shared_ptr<QPrinter>& printer, bool mark_costly) {
+void LessonsPage::print_on(const std::shared_ptr<QPrinter>& printer) {
     const auto report = std::make_shared<TellingReport>(messages(), words::kPrinted);
     work().start(
         words::kPrinting,
-        [report, printer, mark_costly, folders = wanted_folders()](Work::Course& course) {
+        [report, printer, mark_costly = mark_costly_.isChecked(), folders = wanted_folders()](Work::Course& course) {
             const TellingReport::Scope telling(*report, course);
             const std::vector<exchange::Lesson> lessons = printable(folders, *report);
             if (lessons.empty()) return;
-            printer->setFullPage(true);
-            paper::print(lessons, *printer, {.mark_costly = mark_costly});
-            if (printer->printerState() == QPrinter::Error) throw std::runtime_error("the printer failed");
+            print_lessons(lessons, *printer, paper_options(mark_costly, lessons.size(), *report));
             for (const exchange::Lesson& lesson : lessons)
                 report->made(lesson.name);
         },
@@ -221,7 +253,10 @@ void LessonsPage::restore_from(const QString& file) {
     work().start(
         words::kComparing.arg(name),
         [this, name, path = path_of(file), folder = program_folder()](Work::Course& course) {
-            course.in_window([this, name, found = deals::differences(path, folder)] {
+            auto found = deals::differences(path, folder, [&course](std::size_t bytes, std::size_t all) {
+                course.step(bytes * 100 / std::max<std::size_t>(all, 1), 100);
+            });
+            course.in_window([this, name, found = std::move(found)] {
                 if (found.empty()) return messages().add(words::kNothingDiffers.arg(name));
                 ask_what_to_restore(name, found);
             });
@@ -252,7 +287,7 @@ void LessonsPage::keep_copy() {
         words::kKeeping,
         [this, folder = program_folder(),
          day = QDate::currentDate().toString(Qt::ISODate).toStdString()](Work::Course& course) {
-            if (!deals::keep_copy(folder, day)) return;
+            if (!deals::keep_copy(folder, day, progress_of(course))) return;
             const QString copies = name_of(platform::name_bytes(deals::copies_folder(folder)));
             course.in_window([this, copies] { messages().add(words::kKept.arg(copies)); });
         },

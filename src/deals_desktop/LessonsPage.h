@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCheckBox>
 #include <QPushButton>
 #include <QStringList>
 #include <map>
@@ -28,7 +29,7 @@ public:
     // Asks for a printer, and prints what is ticked or chosen as hand-outs.
     void print();
     // The same without asking.
-    void print_on(const std::shared_ptr<QPrinter>& printer, bool mark_costly);
+    void print_on(const std::shared_ptr<QPrinter>& printer);
 
     // Writes all of them into one file.
     void save_all();
@@ -51,6 +52,7 @@ private:
     void take(std::vector<Entry> entries, const Known& known);
 
     QPushButton refresh_, save_, restore_, print_, export_;
+    QCheckBox mark_costly_;  // on paper
 };
 
 }  // namespace deals_desktop

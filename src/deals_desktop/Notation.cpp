@@ -35,6 +35,8 @@ QString dutch_letter(exchange::Seat seat) { return dutch_word(seat).left(1); }
 QString dutch_word(exchange::Seat seat) { return QString::fromStdString(exchange::word_of(seat)); }
 QString symbol_of(exchange::Suit suit) { return QChar(kSymbols[static_cast<std::size_t>(suit)]); }
 
+QString spoken(exchange::Suit suit) { return QString::fromStdString(exchange::word_of(suit)).toLower(); }
+
 QString text_of_rank(int rank) {
     if (rank == kTen) return QStringLiteral("10");
     return QChar::fromLatin1(exchange::kValueLetters[static_cast<std::size_t>(rank - exchange::kLowestRank)]);
@@ -53,10 +55,22 @@ QString dutch_text(exchange::Strain strain) {
     return trump ? symbol_of(*trump) : QStringLiteral("SA");
 }
 
+QString spoken(exchange::Strain strain) {
+    return strain == exchange::Strain::NoTrump ? words::kNoTrumpSpoken
+                                               : QString::fromStdString(exchange::word_of(strain));
+}
+
 QString dutch_text(const exchange::Contract& contract) {
     const QString doubling = QString::fromStdString(exchange::text_of(contract.doubling));
     return QString::number(contract.bid.level) + dutch_text(contract.bid.strain) +
            (doubling.isEmpty() ? doubling : QLatin1Char(' ') + doubling);
+}
+
+QString spoken(const exchange::Contract& contract) {
+    QStringList words{spoken(exchange::Call::of(contract.bid))};
+    if (contract.doubling == exchange::Doubling::Doubled) words.append(words::kDoubleSpoken);
+    if (contract.doubling == exchange::Doubling::Redoubled) words.append(words::kRedoubleSpoken);
+    return words.join(QLatin1Char(' '));
 }
 
 QString dutch_text(const exchange::Call& call) {
@@ -71,6 +85,19 @@ QString dutch_text(const exchange::Call& call) {
             break;
     }
     return QString::number(call.bid.level) + dutch_text(call.bid.strain);
+}
+
+QString spoken(const exchange::Call& call) {
+    switch (call.kind) {
+        case exchange::Call::Kind::Double:
+            return words::kDoubleSpoken;
+        case exchange::Call::Kind::Redouble:
+            return words::kRedoubleSpoken;
+        case exchange::Call::Kind::Bid:
+            return QString::number(call.bid.level) + QLatin1Char(' ') + spoken(call.bid.strain);
+        default:
+            return dutch_text(call);
+    }
 }
 
 QString dutch_text(exchange::Vulnerable vulnerable) {
@@ -158,7 +185,7 @@ QString rich_bidding(const exchange::Auction& auction, const QPalette& palette) 
 QString spoken_bidding(const exchange::Auction& auction) {
     QStringList calls;
     for (std::size_t number = 0; number < auction.calls.size(); ++number)
-        calls.append(dutch_word(auction.caller(number)) + QLatin1Char(' ') + dutch_text(auction.calls[number]));
+        calls.append(dutch_word(auction.caller(number)) + QLatin1Char(' ') + spoken(auction.calls[number]));
     return words::kBidding + QStringLiteral(": ") + calls.join(QStringLiteral(", "));
 }
 

@@ -15,12 +15,16 @@ namespace deals_desktop {
 QString dutch_letter(exchange::Seat seat);  // "N", "O", "Z", "W"
 QString dutch_word(exchange::Seat seat);    // "Noord"
 QString symbol_of(exchange::Suit suit);
+QString spoken(exchange::Suit suit);                     // "harten"
 QString text_of_rank(int rank);                          // "A", "H", "V", "B", "10", "9"
 QString dutch_text(const exchange::Card& card);          // the suit's symbol and the rank
 QString spoken(const exchange::Card& card);              // "harten heer"
 QString dutch_text(exchange::Strain strain);             // a symbol, or "SA"
+QString spoken(exchange::Strain strain);                 // "Harten", "sans atout"
 QString dutch_text(const exchange::Contract& contract);  // "4" and the strain, "X" or "XX"; without the declarer
+QString spoken(const exchange::Contract& contract);      // "4 Harten doublet"; without the declarer
 QString dutch_text(const exchange::Call& call);          // "pas", "X", "XX", or a bid
+QString spoken(const exchange::Call& call);              // "pas", "doublet", "redoublet", "1 Harten"
 QString dutch_text(exchange::Vulnerable vulnerable);
 // "Vraag", "Antwoord", or the card with its trick.
 QString dutch_text(const exchange::Place& place, const exchange::Board& board);

@@ -94,6 +94,7 @@ void Page::replace_board(int entry, SharedBoard read, const exchange::Additions&
 
 void Page::take_own_board(int entry, const exchange::Board& board) {
     model_.set_own_board(entry, std::make_shared<const exchange::Board>(board));
+    list_.choose(entry);
     board_changed(entry);
 }
 
@@ -110,7 +111,13 @@ void Page::clear() {
 }
 
 void Page::show_chosen() {
-    const int entry = model_.entry_at(list_.currentIndex());
+    const QModelIndex line = list_.currentIndex();
+    const int entry = model_.entry_at(line);
+    if (entry < 0 && line.isValid()) {
+        const Entry common = model_.common_at(line);
+        pane_.show_entry(&common, line.siblingAtColumn(DealModel::Name).data().toString());
+        return entry_shown(nullptr);
+    }
     const Entry* const shown = entry < 0 ? nullptr : &model_.entries()[static_cast<std::size_t>(entry)];
     pane_.show_entry(shown, shown ? model_.name_of(entry) : QString());
     entry_shown(shown);

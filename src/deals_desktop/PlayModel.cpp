@@ -57,13 +57,13 @@ int PlayModel::best_behind(int row) const {
     return tricks;
 }
 
-QString PlayModel::spoken_of(const exchange::Card& card, exchange::Seat seat, bool leads, int number) const {
+QString PlayModel::spoken_of(const exchange::Card& card, exchange::Seat seat, bool leads, int number, int role) const {
     QString text = (leads ? words::kLeads : words::kPlaysCard).arg(dutch_word(seat), spoken(card));
     if (const auto* const costly = costly_at(number)) {
         QStringList better;
         for (const exchange::Card& best : costly->best)
-            better.append(dutch_text(best));
-        text = words::kCosts.arg(text, count_of_tricks(costly->tricks), better.join(QLatin1Char(' ')));
+            better.append(role == Qt::AccessibleTextRole ? spoken(best) : dutch_text(best));
+        text = words::kCosts.arg(text, count_of_tricks(costly->tricks), better.join(QStringLiteral(", ")));
     }
     return text;
 }
@@ -85,7 +85,7 @@ QVariant PlayModel::card_data(int row, exchange::Seat seat, int role) const {
             return costly ? QVariant(costly_colour(palette_)) : QVariant();
         case Qt::ToolTipRole:
         case Qt::AccessibleTextRole:
-            return spoken_of(*card, seat, leads, number);
+            return spoken_of(*card, seat, leads, number, role);
         case Qt::FontRole: {
             QFont font;
             font.setBold(costly != nullptr);
@@ -104,6 +104,8 @@ QVariant PlayModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::TextAlignmentRole) return Qt::AlignCenter;
     const exchange::Trick& trick = tricks_[static_cast<std::size_t>(row)];
     if (role == Qt::AccessibleTextRole && column == Trick) return words::kTrick.arg(row + 1);
+    if (role == Qt::AccessibleTextRole && column == Winner && trick.complete())
+        return dutch_word(trick.winner(board_->contract->trump()));
     if (role == Qt::ToolTipRole && column == Best && best_) return words::kBestBehind.arg(best_behind(row));
     if (role != Qt::DisplayRole) return {};
     if (column == Trick) return row + 1;

@@ -25,7 +25,7 @@ public:
 private:
     const exchange::CostlyCard* costly_at(int number) const;
     QVariant card_data(int row, exchange::Seat seat, int role) const;
-    QString spoken_of(const exchange::Card& card, exchange::Seat seat, bool leads, int number) const;
+    QString spoken_of(const exchange::Card& card, exchange::Seat seat, bool leads, int number, int role) const;
     // Of the declarer, behind that trick.
     int best_behind(int row) const;
 

@@ -12,6 +12,7 @@ ProgressLine::ProgressLine() : stop_(words::kStop) {
     layout->addWidget(&text_);
     layout->addWidget(&bar_, 1);
     layout->addWidget(&stop_);
+    text_.setTextFormat(Qt::PlainText);
     bar_.setTextVisible(false);
     connect(&stop_, &QPushButton::clicked, this, [this] { Stopped(); });
     hide();

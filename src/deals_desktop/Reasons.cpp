@@ -1,10 +1,14 @@
 #include "deals_desktop/Reasons.h"
 
+#include <QHash>
 #include <QRegularExpression>
+#include <new>
+#include <system_error>
 #include <vector>
 
 #include "base/Fout.h"
 #include "deals_desktop/Notation.h"
+#include "deals_desktop/Words.h"
 #include "platform/CodePage.h"
 
 namespace deals_desktop {
@@ -128,6 +132,9 @@ constexpr struct {
     {"it could not be copied first", "er kon eerst geen kopie van worden gemaakt"},
     {"no whole play", "geen volledig spelverloop"},
     {"the printer failed", "de printer kon niets afdrukken"},
+    {"stopped", "gestopt"},
+    {"--to needs a file that ends in .pbn, .lin, .html or .pdf",
+     "de naam van het bestand moet eindigen op .pbn, .lin, .html of .pdf"},
     {"the paper could not be made", "de bladen konden niet worden gemaakt"},
     {"no lessons are in this file", "in dit bestand staan geen lessen"},
     {"these deals are there already", "deze spellen zijn er al"},
@@ -231,6 +238,15 @@ const std::vector<Reason>& reasons() {
     return all;
 }
 
+QString behind_name(const QString& text);
+
+QString looked_up(const QString& text) {
+    for (const Reason& row : reasons()) {
+        if (const QString told = row.of(text); !told.isNull()) return told;
+    }
+    return behind_name(text);
+}
+
 // Behind the name of a file or a deal.
 QString behind_name(const QString& text) {
     for (qsizetype colon = text.indexOf(QStringLiteral(": ")); colon >= 0;
@@ -244,17 +260,26 @@ QString behind_name(const QString& text) {
 
 }  // namespace
 
+// A list shows the same reasons over and over.
 QString dutch(const std::string& reason) {
-    const QString text = QString::fromStdString(reason);
-    for (const Reason& row : reasons()) {
-        if (const QString told = row.of(text); !told.isNull()) return told;
-    }
-    return behind_name(text);
+    constexpr qsizetype kMost = 1000;
+    thread_local QHash<QByteArray, QString> known;
+    const QByteArray key(reason.data(), static_cast<qsizetype>(reason.size()));
+    if (const auto found = known.constFind(key); found != known.constEnd()) return *found;
+    const QString told = looked_up(QString::fromStdString(reason));
+    if (known.size() == kMost) known.clear();
+    known.insert(key, told);
+    return told;
 }
 
 QString dutch(const std::exception& failure) {
+    if (const auto* const error = dynamic_cast<const std::system_error*>(&failure))
+        return dutch(base::Fout::from(error->code(), {}));
+    if (dynamic_cast<const std::bad_alloc*>(&failure)) return words::kNoMemory;
     const std::string text = platform::to_utf8(failure.what());
-    return dynamic_cast<const base::Fout*>(&failure) ? QString::fromStdString(text) : dutch(text);
+    if (dynamic_cast<const base::Fout*>(&failure)) return QString::fromStdString(text);
+    const QString told = dutch(text);
+    return told == QString::fromStdString(text) ? words::kUnexpected.arg(told) : told;
 }
 
 }  // namespace deals_desktop

@@ -24,6 +24,8 @@ void TellingReport::refused(const std::string& text) {
     tell({text, words::kRefused});
 }
 
+void TellingReport::step(std::size_t done, std::size_t all) { course_->step(done, all); }
+
 void TellingReport::tell(Messages::Told told) {
     told_.push_back(std::move(told));
     if (told_.size() >= kAtATime) hand_over();

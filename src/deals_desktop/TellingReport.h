@@ -29,6 +29,7 @@ public:
     void note(const std::string& text) override;
     void made(const std::string& name) override;
     void refused(const std::string& text) override;
+    void step(std::size_t done, std::size_t all) override;
 
     // Of each deal in its order, whether it was made. Read it when the work is over.
     const std::vector<bool>& outcomes() const { return outcomes_; }

@@ -1,11 +1,13 @@
 #include "deals_desktop/Window.h"
 
+#include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
 
 #include "deals_desktop/Words.h"
+#include "services/Settings.h"
 
 namespace deals_desktop {
 
@@ -24,7 +26,8 @@ QStringList files_of(const QMimeData& data) {
 
 }  // namespace
 
-Window::Window(const std::string& program_folder) : deals_(program_folder), lessons_(program_folder) {
+Window::Window(const std::string& program_folder)
+    : text_size_(services::settings_file(program_folder)), deals_(program_folder), lessons_(program_folder) {
     setWindowTitle(words::kTitle);
     pages_.addTab(&deals_, words::kDealsPage);
     pages_.addTab(&lessons_, words::kLessonsPage);
@@ -32,7 +35,8 @@ Window::Window(const std::string& program_folder) : deals_(program_folder), less
     setCentralWidget(&pages_);
     setAcceptDrops(true);
     make_menus();
-    resize(kUsualSize.boundedTo(screen()->availableSize() - kFrame));
+    make_view_menu();
+    resize((kUsualSize * text_size_.factor()).boundedTo(screen()->availableSize() - kFrame));
     deals_.list().setFocus();
     connect(&pages_, &QTabWidget::currentChanged, this, [this] {
         page().list().setFocus();
@@ -91,6 +95,52 @@ void Window::make_menus() {
             deals_.solve(false);
             lessons_.solve(false);
         };
+}
+
+// What a click on a column's head does.
+void Window::make_sort_menu(QMenu& menu) {
+    QMenu* const columns = menu.addMenu(words::kSortMenu);
+    for (int column = 0; column < DealModel::ColumnCount; ++column) {
+        QAction* const entry = columns->addAction(column == DealModel::Name ? words::kName : words::kColumns[column]);
+        entry->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + column)));
+        connect(entry, &QAction::triggered, this, [this, column] { page().list().sort_by(column); });
+    }
+    QAction* const as_read = columns->addAction(words::kAsRead);
+    connect(as_read, &QAction::triggered, this, [this] { page().list().sortByColumn(-1, Qt::AscendingOrder); });
+}
+
+// The keys are those of the eight screens.
+void Window::make_view_menu() {
+    QMenu* const menu = menuBar()->addMenu(words::kViewMenu);
+    make_sort_menu(*menu);
+    menu->addSeparator();
+    const auto add = [&](const QString& text, const QList<QKeySequence>& keys, TextSize::Step step) {
+        QAction* const entry = menu->addAction(text);
+        entry->setShortcuts(keys);
+        connect(entry, &QAction::triggered, this, [this, step] { take_size(step); });
+    };
+    add(words::kLarger, {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)},
+        TextSize::Step::Larger);
+    add(words::kSmaller, {QKeySequence(Qt::CTRL | Qt::Key_Minus)}, TextSize::Step::Smaller);
+    add(words::kUsualSize, {QKeySequence(Qt::CTRL | Qt::Key_0)}, TextSize::Step::Usual);
+}
+
+// No larger than the screen has room for.
+void Window::take_size(TextSize::Step step) {
+    constexpr double kNext = 1.1;
+    const QSize room = screen()->availableSize() - kFrame;
+    const QSize least = minimumSizeHint() * kNext;
+    if (step == TextSize::Step::Larger && least.boundedTo(room) != least) return;
+    text_size_.take(step);
+}
+
+void Window::closeEvent(QCloseEvent* event) {
+    if (leaves_ || deals_.model().unsaved().empty()) return;
+    event->ignore();
+    shown_deals().ask_about_typed(words::kQuitAnyway, [this] {
+        leaves_ = true;
+        QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);  // this one has to end first
+    });
 }
 
 void Window::dragEnterEvent(QDragEnterEvent* event) {

@@ -5,6 +5,7 @@
 
 #include "deals_desktop/DealsPage.h"
 #include "deals_desktop/LessonsPage.h"
+#include "deals_desktop/TextSize.h"
 
 namespace deals_desktop {
 
@@ -21,15 +22,22 @@ public:
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    // Asks about deals that were typed in.
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     void make_menus();
+    void make_view_menu();
+    void make_sort_menu(QMenu& menu);
+    void take_size(TextSize::Step step);
     Page& page();
     // The user sees what becomes of what he asks for.
     DealsPage& shown_deals();
     LessonsPage& shown_lessons();
 
-    QTabWidget pages_;  // goes behind what stands in it
+    TextSize text_size_;
+    bool leaves_ = false;  // nothing is asked any more
+    QTabWidget pages_;     // goes behind what stands in it
     DealsPage deals_;
     LessonsPage lessons_;
 };

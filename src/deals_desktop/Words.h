@@ -13,12 +13,27 @@ inline const QString kLessonsPage = QStringLiteral("&Lessen");
 inline const QString kFileMenu = QStringLiteral("&Bestand");
 inline const QString kQuit = QStringLiteral("&Afsluiten");
 inline const QString kOpen = QStringLiteral("&Openen...");
+inline const QString kTypedGo =
+    QStringLiteral("%1 dat u hebt ingetypt of gewijzigd, is niet bewaard en niet ge\u00EFmporteerd.");
+inline const QString kManyTypedGo =
+    QStringLiteral("%1 spellen die u hebt ingetypt of gewijzigd, zijn niet bewaard en niet ge\u00EFmporteerd.");
+inline const QString kKeepTyped = QStringLiteral("Als &PBN bewaren...");
+inline const QString kQuitAnyway = QStringLiteral("Toch &afsluiten");
+inline const QString kClearAnyway = QStringLiteral("Toch &leegmaken");
+inline const QString kStay = QStringLiteral("&Terug");
 inline const QString kClear = QStringLiteral("Lijst &leegmaken");
 inline const QString kTickMenu = QStringLiteral("&Kiezen");
 inline const QString kTickAll = QStringLiteral("Alles &aanvinken");
 inline const QString kTickNone = QStringLiteral("&Niets aanvinken");
 inline const QString kTick = QStringLiteral("Gekozen regels aan- of &uitvinken");
 inline const QString kSolve = QStringLiteral("&Beste spel uitrekenen");
+inline const QString kViewMenu = QStringLiteral("B&eeld");
+inline const QString kLarger = QStringLiteral("&Groter");
+inline const QString kSmaller = QStringLiteral("&Kleiner");
+inline const QString kUsualSize = QStringLiteral("Ge&wone grootte");
+inline const QString kSortMenu = QStringLiteral("&Sorteren");
+inline const QString kName = QStringLiteral("&Nummer of naam");
+inline const QString kAsRead = QStringLiteral("Volgorde van het &bestand");
 inline const QString kRefresh = QStringLiteral("&Vernieuwen");
 inline const QString kCopy = QStringLiteral("&Kopi\u00EBren");
 
@@ -62,6 +77,9 @@ inline const QString kVulnerable = QStringLiteral("Kwetsbaar: %1");
 inline const QString kHandUnknown = QStringLiteral("onbekend");
 inline const QString kVoid = QStringLiteral("geen");
 inline const QString kBidding = QStringLiteral("Bieding");
+inline const QString kNoTrumpSpoken = QStringLiteral("sans atout");
+inline const QString kDoubleSpoken = QStringLiteral("doublet");
+inline const QString kRedoubleSpoken = QStringLiteral("redoublet");
 inline const QString kNoBidding = QStringLiteral("Geen bieding bekend");
 inline const QString kPlay = QStringLiteral("S&pelverloop");
 inline const QString kTexts = QStringLiteral("&Teksten");
@@ -90,6 +108,13 @@ inline const QString kFillContract = QStringLiteral("&Contract:");
 inline const QString kFillBy = QStringLiteral("&door");
 inline const QString kFillLead = QStringLiteral("&Uitkomst:");
 inline const QString kFillIn = QStringLiteral("In&vullen");
+inline const QString kNotChosen = QStringLiteral("-");
+inline const QString kLevelSpoken = QStringLiteral("Hoogte van het contract");
+inline const QString kDeclarerSpoken = QStringLiteral("Leider");
+inline const QString kLevelLacks = QStringLiteral("de hoogte");
+inline const QString kStrainLacks = QStringLiteral("de kleur");
+inline const QString kDeclarerLacks = QStringLiteral("de leider");
+inline const QString kContractLacks = QStringLiteral("Kies ook %1.");
 inline const QString kStrainSpoken = QStringLiteral("Kleur van het contract");
 inline const QString kDoublingSpoken = QStringLiteral("Doublet");
 inline const QString kDoublings[] = {QStringLiteral("-"), QStringLiteral("X"), QStringLiteral("XX")};
@@ -133,12 +158,15 @@ inline const QString kPlayEnds = QStringLiteral("Volledig; slagen voor de leider
 inline const QString kFaultInTrick = QStringLiteral("Slag %1, %2");
 inline const QString kNoCard = QStringLiteral("Slag %1, kaart %2: dit is geen kaart: %3");
 inline const QString kTextsGo = QStringLiteral("Teksten bij kaarten die vervallen: %1");
+inline const QString kTypingGoes = QStringLiteral("Wat u hebt gewijzigd, is nog niet opgenomen. Toch sluiten?");
+inline const QString kThrowAway = QStringLiteral("&Sluiten");
+inline const QString kTypeOn = QStringLiteral("&Verder typen");
 inline const QString kTake = QStringLiteral("&Opnemen in de lijst");
 inline const QString kOneDealWritten = QStringLiteral("1 spel in %1 geschreven.");
 inline const QString kDealsWritten = QStringLiteral("%1 spellen in %2 geschreven.");
 
 // The lessons.
-inline const QString kExport = QStringLiteral("&Exporteren...");
+inline const QString kExport = QStringLiteral("E&xporteren...");
 inline const QString kExportTitle = QStringLiteral("Lessen exporteren");
 inline const QString kExported = QStringLiteral("%1 in %2 geschreven.");
 inline const QString kOneLesson = QStringLiteral("1 les");
@@ -146,7 +174,9 @@ inline const QString kManyLessons = QStringLiteral("%1 lessen");
 inline const QString kWritten = QStringLiteral("Geschreven: %1");
 inline const QString kPrint = QStringLiteral("Af&drukken...");
 inline const QString kPrintTitle = QStringLiteral("Lessen afdrukken");
-inline const QString kMarkCostly = QStringLiteral("Kaarten &merken die slagen kosten");
+inline const QString kMarkCostly = QStringLiteral("Dure kaarten &merken");
+inline const QString kMarkCostlyTip =
+    QStringLiteral("Op papier staat dan bij elke kaart die slagen weggaf hoeveel het er waren");
 inline const QString kPrinting = QStringLiteral("Afdrukken");
 inline const QString kPrinted = QStringLiteral("Afgedrukt: %1");
 
@@ -156,6 +186,7 @@ inline const QString kSaveTitle = QStringLiteral("Bewaren");
 inline const QString kReplace = QStringLiteral("%1 bestaat al. Vervangen?");
 inline const QString kSaveName = QStringLiteral("lessen.pbn");
 inline const QString kPbn = QStringLiteral(".pbn");
+inline const QString kPdf = QStringLiteral(".pdf");
 inline const QString kSaveFilter = QStringLiteral("PBN (*.pbn)");
 inline const QString kRestore = QStringLiteral("Te&rugzetten...");
 inline const QString kRestoreTitle = QStringLiteral("Lessen terugzetten");
@@ -196,6 +227,8 @@ inline const QString kOneDeal = QStringLiteral("1 spel");
 inline const QString kManyDeals = QStringLiteral("%1 spellen");
 inline const QString kOpenTitle = QStringLiteral("Bestanden openen");
 inline const QString kOpenFilter = QStringLiteral("Spellen (*.pbn *.PBN *.lin *.LIN);;Alle bestanden (*)");
+inline const QString kNoMemory = QStringLiteral("er is te weinig geheugen");
+inline const QString kUnexpected = QStringLiteral("onverwachte fout (%1)");
 inline const QString kNoProgramFolder =
     QStringLiteral("De map \"Zandolin Lomert\" in uw persoonlijke map kan niet worden gemaakt:\n\n%1");
 

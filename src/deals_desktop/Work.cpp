@@ -2,7 +2,9 @@
 
 #include <QElapsedTimer>
 
+#include "deals/Report.h"
 #include "deals_desktop/Reasons.h"
+#include "deals_desktop/Words.h"
 
 namespace deals_desktop {
 
@@ -17,6 +19,11 @@ void Work::Course::tell(int done, int all) {
     if (told.isValid() && told.elapsed() < kBetweenNews) return;
     told.start();
     in_window([&work = work_, done, all] { work.Told(work.name_, done, all); });
+}
+
+void Work::Course::step(std::size_t done, std::size_t all) {
+    if (stopped()) throw deals::Stopped();
+    tell(static_cast<int>(done), static_cast<int>(all));
 }
 
 void Work::Course::in_window(std::function<void()> action) {
@@ -42,6 +49,8 @@ void Work::run(const Piece& piece) {
         Course course(*this, stop);
         try {
             piece.task(course);
+        } catch (const deals::Stopped&) {
+            course.in_window([this, text = words::kStopped.arg(piece.name)] { Failed(text); });
         } catch (const std::exception& failure) {
             course.in_window([this, text = piece.name + QStringLiteral(": ") + dutch(failure)] { Failed(text); });
         }

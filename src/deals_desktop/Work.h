@@ -18,6 +18,8 @@ public:
         bool stopped() const { return stop_.stop_requested(); }
         // How much is done; `all` is 0 where nobody knows. Told some times a second at most.
         void tell(int done, int all);
+        // The same between two deals, where the work ends if it was stopped: deals::Stopped.
+        void step(std::size_t done, std::size_t all);
         // Has the window do something, in the order asked.
         void in_window(std::function<void()> action);
 
@@ -29,8 +31,8 @@ public:
 
     ~Work() override;
 
-    // `then` is done in the window when the task is over, also behind a failure or a stop. While other work goes on, it
-    // waits for its turn.
+    // `then` is done in the window when the task is over, also behind a failure or a stop, which are told. While other
+    // work goes on, it waits for its turn.
     void start(const QString& name, Task task, std::function<void()> then);
     // What waits is forgotten.
     void stop();

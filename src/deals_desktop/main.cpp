@@ -9,6 +9,7 @@
 #include <optional>
 #include <string_view>
 
+#include "deals_desktop/DutchQt.h"
 #include "deals_desktop/Reasons.h"
 #include "deals_desktop/Window.h"
 #include "deals_desktop/Words.h"
@@ -33,6 +34,8 @@ std::optional<std::string> folder_or_box(const QString& given) {
 // The words are files, which are opened.
 int run_window(int argc, char** argv) {
     const QApplication application(argc, argv);
+    deals_desktop::teach_qt_dutch();
+    deals_desktop::TextSize::let_controls_grow();
     QApplication::setDesktopFileName(QStringLiteral("zandolin_deals"));
     QCommandLineParser parser;
     parser.addHelpOption();

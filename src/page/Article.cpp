@@ -76,8 +76,7 @@ std::string trick_row(const exchange::Trick& trick, Seat winner, std::size_t num
         const std::string role = (seat == trick.leader ? std::string(", ") + words::kLeads : "") +
                                  (seat == winner ? std::string(", ") + words::kWins : "");
         cells += element("td", markup(card) + (role.empty() ? "" : spoken(role)),
-                         (seat == winner ? of_class("won") : "") + attribute("data-card", number_of(card)) +
-                             attribute("data-says", spoken_name(card)));
+                         (seat == winner ? of_class("won") : "") + attribute("data-card", number_of(card)));
     }
     return element("tr", cells,
                    attribute("data-leader", exchange::index_of(trick.leader)) +

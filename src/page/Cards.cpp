@@ -26,8 +26,7 @@ std::string suit_symbol(Suit suit) {
 }
 
 std::string picture_of(Suit suit) {
-    return element("svg", element("use", "", attribute("href", "#" + symbol_id(suit))),
-                   attribute("class", "suit") + attribute("aria-hidden", "true"));
+    return element("svg", "<use" + attribute("href", "#" + symbol_id(suit)) + "/>", attribute("class", "suit"));
 }
 
 }  // namespace
@@ -58,10 +57,14 @@ std::string spoken_name(const exchange::Card& card) {
            (has_word ? exchange::kValueWords[exchange::value_of(card)] : std::to_string(card.rank));
 }
 
-std::string drawn(Suit suit) { return picture_of(suit) + spoken(exchange::word_of(suit)); }
+std::string drawn(Suit suit) {
+    return element("i", picture_of(suit), attribute("aria-hidden", "true")) + spoken(exchange::word_of(suit));
+}
 
+// Short: a page has hundreds of them.
 std::string markup(const exchange::Card& card) {
-    return picture_of(card.suit) + seen(value_letter(card.rank)) + spoken(spoken_name(card));
+    return element("i", picture_of(card.suit) + value_letter(card.rank), attribute("aria-hidden", "true")) +
+           spoken(spoken_name(card));
 }
 
 std::string markup(const exchange::Call& call, SuitMarkup suit) {

@@ -42,6 +42,5 @@ std::string attribute(std::string_view name, std::string_view value) {
 std::string attribute(std::string_view name, int value) { return attribute(name, std::to_string(value)); }
 
 std::string spoken(std::string_view text) { return element("span", escaped(text), attribute("class", "spoken")); }
-std::string seen(std::string_view text) { return element("span", escaped(text), attribute("aria-hidden", "true")); }
 
 }  // namespace page

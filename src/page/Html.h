@@ -18,7 +18,5 @@ std::string attribute(std::string_view name, int value);
 
 // What only a screen reader tells.
 std::string spoken(std::string_view text);
-// What is only seen.
-std::string seen(std::string_view text);
 
 }  // namespace page

@@ -61,11 +61,13 @@ std::string title_of(const std::vector<Lesson>& lessons) {
 }
 
 // The cards, by far the largest part, come last: a browser shows the lesson while it still reads them.
-std::string html(const std::vector<Lesson>& lessons) {
+std::string html(const std::vector<Lesson>& lessons, const std::function<void(std::size_t done)>& between) {
     const bool booklet = lessons.size() > 1;
     std::string articles;
-    for (std::size_t i = 0; i < lessons.size(); ++i)
+    for (std::size_t i = 0; i < lessons.size(); ++i) {
+        if (between) between(i);
         articles += article(lessons[i], id_of(i), booklet);
+    }
     return "<!DOCTYPE html>\n" +
            element(
                "html",

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -14,7 +15,9 @@ std::string refusal(const exchange::Lesson& lesson);
 // What the lessons are called together: a single one by its own title.
 std::string title_of(const std::vector<exchange::Lesson>& lessons);
 
-// The page, UTF-8: of one lesson, or of several with a list to choose from. None of them is refused.
-std::string html(const std::vector<exchange::Lesson>& lessons);
+// The page, UTF-8: of one lesson, or of several with a list to choose from. None of them is refused. In front of each
+// lesson `between` is told how many are done; what it throws ends the work.
+std::string html(const std::vector<exchange::Lesson>& lessons,
+                 const std::function<void(std::size_t done)>& between = {});
 
 }  // namespace page

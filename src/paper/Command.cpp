@@ -1,6 +1,4 @@
-#include <QBuffer>
 #include <QGuiApplication>
-#include <QPdfWriter>
 #include <algorithm>
 #include <iostream>
 #include <stdexcept>
@@ -25,18 +23,6 @@ exchange::Lesson lesson_in(const std::string& folder) {
     return lesson;
 }
 
-QByteArray pdf_of(const std::vector<exchange::Lesson>& lessons, const Options& options) {
-    QBuffer bytes;
-    bytes.open(QBuffer::WriteOnly);
-    QPdfWriter writer(&bytes);
-    writer.setPageSize(QPageSize(QPageSize::A4));
-    writer.setPageMargins(QMarginsF());
-    writer.setCreator(QStringLiteral("Zandolin Lomert"));
-    writer.setTitle(QString::fromStdString(page::title_of(lessons)));
-    print(lessons, writer, options);
-    return bytes.data();
-}
-
 }  // namespace
 
 int run(int argc, char** argv) try {
@@ -51,7 +37,7 @@ int run(int argc, char** argv) try {
     std::vector<exchange::Lesson> lessons;
     for (std::size_t i = 2; i < words.size(); ++i)
         lessons.push_back(lesson_in(words[i]));
-    platform::replace_file(platform::path_text(words[1]), pdf_of(lessons, options).toStdString());
+    platform::replace_file(platform::path_text(words[1]), pdf(lessons, options));
     return 0;
 } catch (const std::exception& failure) {
     std::cerr << "error: " << platform::to_utf8(failure.what()) << "\n";

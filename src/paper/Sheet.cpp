@@ -129,14 +129,14 @@ private:
 
 }  // namespace
 
-std::string sheet_of(const exchange::Lesson& lesson, const std::vector<exchange::CostlyCard>& costly, Sheet place) {
+std::string sheet_of(const exchange::Lesson& lesson, const std::vector<exchange::CostlyCard>& costly) {
     const exchange::Board& board = lesson.board;
     const std::string title = page::escaped(page::title_of(lesson));
     const std::string new_page = attribute("style", "page-break-before:always");
     const std::string lead = exchange::word_of(board.contract->leader()) + " " + printed(board.play->cards.front());
     const std::string question = page::text_at(board, {Place::Kind::Question, 0});
     const std::string answer = page::text_at(board, {Place::Kind::Answer, 0});
-    return element("h2", title, place == Sheet::Next ? new_page : "") +
+    return element("h2", title) +
            element("p", std::string(page::words::kContract) + " " + page::markup(*board.contract, printed) +
                             "&nbsp;&nbsp;&nbsp; " + page::words::kLead + " " + lead) +
            diagram(*board.deal) + (board.auction ? part(page::words::kBidding, bidding(*board.auction)) : "") +

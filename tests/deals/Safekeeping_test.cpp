@@ -109,6 +109,19 @@ TEST_F(Safekeeping, KeepsACopyADayOfWhatHasChangedAndTheLastThirty) {
     EXPECT_EQ(names("bewaard").front(), "lessen 2026-01-02.pbn");
 }
 
+TEST_F(Safekeeping, ALessonWithoutANumberIsKnownByItsHands) {
+    make_lesson("Slemmen", 5);
+    make_lesson("Uitkomsten", 6);
+    save();
+    const std::string before = lesson("Slemmen");
+    lose_text("Slemmen", "tekst 20");
+    const auto differ = found();
+    ASSERT_EQ(differ.size(), 1U);
+    EXPECT_EQ(differ[0].name + std::to_string(differ[0].texts_lost), "Slemmen1");
+    EXPECT_EQ(bring(BringBack::InPlace), "Slemmen\n");
+    EXPECT_EQ(lesson("Slemmen"), before);
+}
+
 TEST_F(Safekeeping, AFileWithoutLessonsIsRefused) {
     put("alles.pbn", "[Board \"1\"]\n[Contract \"Pass\"]\n");
     EXPECT_THROW(found(), std::runtime_error);

@@ -66,6 +66,23 @@ protected:
         }
         throw std::runtime_error(text.toStdString());
     }
+    QComboBox& box(const char* name) {
+        for (QComboBox* const each : editor->findChildren<QComboBox*>()) {
+            if (each->accessibleName() == QLatin1String(name)) return *each;
+        }
+        throw std::runtime_error(name);
+    }
+    QComboBox& lead() { return *editor->findChildren<QComboBox*>().last(); }
+    // What the row of the contract shows.
+    std::string contract() {
+        return (box("Hoogte van het contract").currentText() + box("Kleur van het contract").currentText() +
+                box("Doublet").currentText() + QLatin1Char(' ') + box("Leider").currentText())
+            .toStdString();
+    }
+    // Closes it without taking what was typed, and answers the question with that button.
+    void leave(const QString& answer) {
+        EXPECT_EQ(answered(answer, [&] { keys(*editor, Qt::Key_Escape); }), !answer.isEmpty());
+    }
     void call(std::initializer_list<const char*> calls) {
         for (const char* const each : calls)
             QTest::mouseClick(&button(QString::fromUtf8(each)), Qt::LeftButton);
@@ -138,6 +155,83 @@ TEST_F(DealEditor, TakesADealWithItsBiddingAndLeadWhichThenIsImported) {
     EXPECT_EQ(cell(1, DealModel::Contract) + cell(1, DealModel::Lead), "7♦♣A") << messages();
 }
 
+// As a newspaper prints it: without bidding.
+TEST_F(DealEditor, TakesAContractWithoutBidding) {
+    begin(QStringLiteral("Nieuw spel..."));
+    type_hands();
+    EXPECT_EQ(contract(), "--- -");
+    QTest::keyClicks(&box("Hoogte van het contract"), QStringLiteral("4"));
+    EXPECT_TRUE(tells("Kies ook de kleur, de leider."));
+    EXPECT_EQ(box("Hoogte van het contract").accessibleDescription(), QStringLiteral("Kies ook de kleur, de leider."));
+    EXPECT_FALSE(may_be_taken());
+    keys(box("Kleur van het contract"), Qt::Key_End);
+    EXPECT_FALSE(lead().isEnabled());
+    QTest::keyClicks(&box("Leider"), QStringLiteral("Z"));
+    EXPECT_FALSE(tells("Kies ook de leider."));
+    keys(lead(), Qt::Key_Down);
+    EXPECT_TRUE(may_be_taken());
+    take();
+    EXPECT_EQ(cell(0, DealModel::Contract) + cell(0, DealModel::Declarer) + cell(0, DealModel::Lead) +
+                  cell(0, DealModel::Remark),
+              "4SAZ♣A");
+    begin(QStringLiteral("Wijzigen..."));
+    EXPECT_EQ(contract(), "4SA- Zuid");
+    keys(box("Doublet"), Qt::Key_Down);
+    QTest::keyClicks(&box("Leider"), QStringLiteral("N"));
+    EXPECT_TRUE(lead().currentText() == QStringLiteral("-")) << "another hand leads";
+    take();
+    EXPECT_EQ(cell(0, DealModel::Contract) + cell(0, DealModel::Declarer) + cell(0, DealModel::Lead), "4SA XN");
+}
+
+TEST_F(DealEditor, TheContractFollowsFromTheBiddingWhereThereIsOne) {
+    begin(QStringLiteral("Nieuw spel..."));
+    type_hands();
+    keys(box("Hoogte van het contract"), Qt::Key_Down);
+    keys(box("Kleur van het contract"), Qt::Key_Down);
+    keys(box("Leider"), Qt::Key_Down);
+    EXPECT_EQ(contract(), "1Klaveren ♣- Noord");
+    call({"pas", "1♥"});
+    EXPECT_FALSE(box("Leider").isEnabled());
+    EXPECT_EQ(contract(), "--- -") << "not over yet";
+    call({"X", "pas", "pas", "pas"});
+    EXPECT_EQ(contract(), "1Harten ♥X Oost");
+    take();
+    begin(QStringLiteral("Wijzigen..."));
+    call({"Terug", "Terug", "Terug", "Terug", "Terug", "Terug"});
+    EXPECT_TRUE(box("Leider").isEnabled());
+    EXPECT_EQ(contract(), "1Harten ♥X Oost") << "it stays where the bidding goes";
+    take();
+    const exchange::Board& board = *deals().model().entries()[0].board;
+    EXPECT_TRUE(board.contract && !board.auction);
+}
+
+TEST_F(DealEditor, TheLastHandGoesOnFillingItselfUntilItIsTypedIn) {
+    begin(QStringLiteral("Nieuw spel..."));
+    type_hands();
+    type("Noord schoppen", "AHVB109876543");
+    EXPECT_EQ(field("West klaveren").text(), QString()) << "Noord has twelve cards";
+    type("Noord klaveren", "A");
+    EXPECT_EQ((field("West schoppen").text() + field("West klaveren").text()).toStdString(), "2HVB1098765432");
+    type("West schoppen", "");
+    keys(field("West schoppen"), Qt::Key_Delete);
+    EXPECT_TRUE(tells("12 van de 13 kaarten"));
+    type("Noord klaveren", "H");
+    EXPECT_TRUE(tells("♣H heeft West ook")) << "what was typed stays";
+}
+
+TEST_F(DealEditor, AsksBeforeWhatWasTypedGoes) {
+    begin(QStringLiteral("Nieuw spel..."));
+    leave({});
+    EXPECT_FALSE(editor->isVisible());
+    begin(QStringLiteral("Nieuw spel..."));
+    type("Noord schoppen", "A");
+    leave(QStringLiteral("Verder typen"));
+    EXPECT_TRUE(editor->isVisible());
+    leave(QStringLiteral("Sluiten"));
+    EXPECT_FALSE(editor->isVisible());
+    EXPECT_EQ(deals().model().rowCount(), 0);
+}
+
 TEST_F(DealEditor, TellsBesideTheHandWhatIsWrong) {
     begin(QStringLiteral("Nieuw spel..."));
     type_hands();
@@ -146,6 +240,7 @@ TEST_F(DealEditor, TellsBesideTheHandWhatIsWrong) {
     EXPECT_FALSE(may_be_taken());
     type("Noord schoppen", "AHVB109876543");
     EXPECT_TRUE(tells("12 van de 13 kaarten"));
+    EXPECT_EQ(field("Noord harten").accessibleDescription(), QStringLiteral("12 van de 13 kaarten"));
     type("Noord harten", "A");
     EXPECT_TRUE(tells("♥A heeft Oost ook"));
     EXPECT_FALSE(may_be_taken());
@@ -238,6 +333,30 @@ TEST_F(DealEditor, AMendedDealKeepsItsPlayAndWhatBelongsToIt) {
     EXPECT_TRUE(editor->findChildren<QComboBox*>().last()->isEnabled());
     take();
     EXPECT_EQ(told(), "1♣B  ");
+}
+
+TEST_F(DealEditor, WhatWasTypedIsNotLostByQuittingOrEmptyingTheList) {
+    const auto type_a_deal = [&] {
+        begin(QStringLiteral("Nieuw spel..."));
+        type_hands();
+        take();
+    };
+    type_a_deal();
+    EXPECT_TRUE(answered(QStringLiteral("Terug"), [&] { window->close(); }));
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_TRUE(answered(QStringLiteral("Terug"), [&] { deals().clear_list(); }));
+    EXPECT_EQ(deals().model().rowCount(), 1);
+    deals().list().choose(0);
+    deals().save_to(QString::fromStdString(in("weg/nergens.pbn")));
+    wait_for_work();
+    EXPECT_EQ(deals().model().unsaved(), std::vector{0}) << messages();
+    deals().save_to(QString::fromStdString(in("krant.pbn")));
+    wait_for_work();
+    EXPECT_FALSE(answered(QStringLiteral("Terug"), [&] { deals().clear_list(); })) << "it stands in a file now";
+    EXPECT_EQ(deals().model().rowCount(), 0);
+    type_a_deal();
+    EXPECT_TRUE(answered(QStringLiteral("Toch afsluiten"), [&] { window->close(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->isVisible(); }, kPatience));
 }
 
 }  // namespace

@@ -87,6 +87,24 @@ TEST_F(Deals, AHeadIsTickedWithItsTables) {
     EXPECT_EQ(model.ticked(), (std::vector{0, 1, 2}));
 }
 
+TEST_F(Deals, AMendedTableLeavesItsGroup) {
+    model.add({table("a", "1", one, 4), table("a", "1", one, 2), table("a", "1", one, 3), table("a", "2", other, 1)});
+    EXPECT_EQ(model.common_at(model.index(0, 0)).board->deal, one);
+    const auto mended = [&](int level) { return table("a", "1", other, level).board; };
+    model.set_own_board(1, mended(5));
+    EXPECT_EQ(lines(), "1 (2 tafels)-4♥-3♥ 1 2 ");
+    EXPECT_EQ(text(model.index_of(1).siblingAtColumn(DealModel::Contract)), "5♥");
+    model.set_own_board(0, mended(6));
+    EXPECT_EQ(lines(), "1 1 1 2 ");
+    EXPECT_EQ(text(model.index_of(0).siblingAtColumn(DealModel::Contract)), "6♥");
+    EXPECT_EQ(text(model.index_of(2).siblingAtColumn(DealModel::Contract)), "3♥");
+    EXPECT_EQ(model.unsaved(), (std::vector{0, 1}));
+    model.set_saved({model.entries()[0].board});
+    EXPECT_EQ(model.unsaved(), std::vector{1});
+    model.sort(DealModel::Contract, Qt::DescendingOrder);
+    EXPECT_EQ(model.entry_at(model.index(0, 0)), 0);
+}
+
 TEST_F(Deals, ALateResultOfAnotherBoardIsDropped) {
     model.add({table("a", "1", one, 4)});
     const auto before = model.entries()[0].board;

@@ -1,8 +1,10 @@
 // The first page by mouse and keys: files are opened, deals looked at, ticked and imported.
 #include <QAccessible>
 #include <QClipboard>
+#include <QDialog>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QScreen>
 #include <QSignalSpy>
 
 #include "deals_desktop/TestWindow.h"
@@ -93,6 +95,7 @@ TEST_F(DealsPage, AContractThatIsFilledInBringsThePlayToo) {
     EXPECT_EQ(cell(0, DealModel::Cards), "");
     auto& combos = find<QPushButton>(QStringLiteral("Invullen"));
     const auto boxes = combos.parentWidget()->findChildren<QComboBox*>();
+    EXPECT_FALSE(combos.isEnabled()) << "nothing is taken for granted";
     QTest::keyClicks(boxes[0], QStringLiteral("3"));
     QTest::keyClicks(boxes[1], QStringLiteral("SA"));
     QTest::keyClicks(boxes[3], QStringLiteral("Z"));
@@ -107,6 +110,9 @@ TEST_F(DealsPage, AContractThatIsFilledInBringsThePlayToo) {
 TEST_F(DealsPage, AFileThatHasChangedIsNotTakenForTheOneThatIsShown) {
     open("club.pbn", kBare);
     put("club.pbn", kWrong);
+    const auto boxes = find<QPushButton>(QStringLiteral("Invullen")).parentWidget()->findChildren<QComboBox*>();
+    for (const int box : {0, 1, 3})
+        keys(*boxes[box], Qt::Key_Down);
     QTest::mouseClick(&find<QPushButton>(QStringLiteral("Invullen")), Qt::LeftButton);
     wait_for_work();
     EXPECT_NE(messages().find("club.pbn: het bestand is veranderd"), std::string::npos) << messages();
@@ -123,6 +129,51 @@ TEST_F(DealsPage, AFolderWithoutPermissionLosesNothing) {
     EXPECT_NE(messages().find("Geweigerd: club.pbn: spel 1"), std::string::npos) << messages();
     EXPECT_NE(messages().find("Gemaakt: 0. Geweigerd: 1."), std::string::npos) << messages();
     EXPECT_EQ(deals().model().rowCount(), 1);
+}
+
+TEST_F(DealsPage, TheLineAboveSeveralTablesShowsTheirHands) {
+    open("club.pbn", kWhole + "\n" + kBare + "\n" + kWhole);
+    EXPECT_EQ(cell(0, DealModel::Name), "1 (2 tafels)");
+    EXPECT_EQ(label(QStringLiteral("Noord")), "Noord: schoppen A V 2, harten A 3 2, ruiten 5 4 3 2, klaveren 4 3 2");
+    keys(*window, Qt::Key_F2);
+    EXPECT_EQ(window->findChild<QDialog*>(), nullptr) << "it is no deal that could be mended";
+}
+
+TEST_F(DealsPage, ColumnsAreSortedByKeysToo) {
+    open("club.pbn", kWhole + "\n" + kBare + "\n" + kWrong);
+    const auto order = [&] { return cell(0, DealModel::Name) + cell(1, DealModel::Name) + cell(2, DealModel::Name); };
+    constexpr const char* kOrders[] = {"231", "123", "123"};  // upward, downward, as the file has them
+    for (const char* const expected : kOrders) {
+        keys(*window, Qt::Key_2, Qt::ControlModifier);
+        EXPECT_EQ(order(), expected);
+    }
+}
+
+TEST_F(DealsPage, LettersGoByKeysAndStaySo) {
+    const auto height = [&] {
+        QCoreApplication::processEvents();  // letters are told to the widgets in their turn
+        return deals().list().fontMetrics().height();
+    };
+    const auto column = [&] { return deals().list().columnWidth(DealModel::Contract); };
+    const int usual = height();
+    const int wide = column();
+    for (int step = 0; step < 4; ++step)
+        keys(*window, Qt::Key_Minus, Qt::ControlModifier);
+    const int small = height();
+    EXPECT_NEAR(small, usual * 0.6, 2);
+    EXPECT_NEAR(column(), wide * 0.6, wide * 0.2);
+    window.reset();
+    window.emplace(in("program"));
+    window->show();
+    EXPECT_EQ(height(), small);
+    for (int step = 0; step < 40; ++step) {
+        keys(*window, Qt::Key_Plus, Qt::ControlModifier);
+        QCoreApplication::processEvents();
+    }
+    EXPECT_GT(height(), small);
+    EXPECT_LE(window->minimumSizeHint().width(), window->screen()->availableSize().width());
+    keys(*window, Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(height(), usual);
 }
 
 TEST_F(DealsPage, FilesThatAreDroppedAreOpened) {

@@ -36,7 +36,7 @@ TEST(Play, MarksTheCardThatGaveTricksAway) {
     EXPECT_EQ(text(1, PlayModel::Best), "9");
     const QModelIndex costly = model.index(1, PlayModel::North);
     EXPECT_EQ(costly.data(Qt::AccessibleTextRole).toString().toStdString(),
-              "Noord speelt schoppen aas en geeft 2 slagen weg; beter: ♠2");
+              "Noord speelt schoppen aas en geeft 2 slagen weg; beter: schoppen 2");
     for (int column = PlayModel::North; column <= PlayModel::West; ++column) {
         const bool coloured = model.index(1, column).data(Qt::BackgroundRole).isValid();
         EXPECT_EQ(coloured, column == PlayModel::North);

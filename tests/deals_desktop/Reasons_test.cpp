@@ -3,8 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <new>
 #include <sstream>
+#include <stdexcept>
 
+#include "base/Fout.h"
 #include "exchange/LinReader.h"
 #include "exchange/PbnReader.h"
 
@@ -31,6 +35,15 @@ TEST(Reasons, AreInDutchWithTheirCardsSeatsAndPlaces) {
     };
     for (const auto& row : kRows)
         EXPECT_EQ(dutch(std::string(row.english)).toStdString(), row.dutch);
+}
+
+TEST(Reasons, FailuresAreInDutchWhateverTheyAre) {
+    const auto full = std::make_error_code(std::errc::no_space_on_device);
+    EXPECT_EQ(dutch(std::filesystem::filesystem_error("cannot write", full)), QStringLiteral("De schijf is vol"));
+    EXPECT_EQ(dutch(base::Fout(base::FoutNummer::DiskFull)), QStringLiteral("De schijf is vol"));
+    EXPECT_EQ(dutch(std::bad_alloc()), QStringLiteral("er is te weinig geheugen"));
+    EXPECT_EQ(dutch(std::runtime_error("the printer failed")), QStringLiteral("de printer kon niets afdrukken"));
+    EXPECT_EQ(dutch(std::out_of_range("vector::at")), QStringLiteral("onverwachte fout (vector::at)"));
 }
 
 template <class Reader>

@@ -1,14 +1,34 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <signal.h>
 #include <stdlib.h>
+#include <sys/resource.h>
 
 #include <QTest>
+#include <QTimer>
 #include <functional>
 #include <string>
 
 #include "deals_desktop/Window.h"
 #include "support/TemporaryFolder.h"
+
+// As long as it is there, no file grows: what a disk that is full does.
+class NoSpace {
+public:
+    NoSpace() {
+        signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit none{1, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &none);
+    }
+    ~NoSpace() { setrlimit(RLIMIT_FSIZE, &before_); }
+    NoSpace(const NoSpace&) = delete;
+    NoSpace& operator=(const NoSpace&) = delete;
+
+private:
+    rlimit before_{};
+};
 
 // The window on a program folder of its own, in a home folder without a companion.
 class TestWindow : public TemporaryFolder {
@@ -54,6 +74,22 @@ protected:
             if (widget->isVisible() && widget->text().remove(QLatin1Char('&')) == text) return *widget;
         }
         throw std::runtime_error("no such widget: " + text.toStdString());
+    }
+    // While `action` goes on, the next box that asks is answered by that button; whether there was one.
+    bool answered(const QString& button, const std::function<void()>& action) {
+        bool asked = false;
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [&] {
+            QWidget* const box = QApplication::activeModalWidget();
+            for (QPushButton* const each : box ? box->findChildren<QPushButton*>() : QList<QPushButton*>()) {
+                if (asked || each->text().remove(QLatin1Char('&')) != button) continue;
+                asked = true;
+                each->click();
+            }
+        });
+        timer.start(10);
+        action();
+        return asked;
     }
     void keys(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(&widget, key, modifiers);

@@ -118,6 +118,18 @@ TEST_F(Paper, MarksCardsThatGaveTricksAway) {
     EXPECT_EQ(count(joined(printed({any}))), 0);
 }
 
+TEST_F(Paper, ADeviceThatTakesNoPageIsToldBeforeAnyWork) {
+    QPdfWriter writer(QString::fromStdString(program.path("nergens/les.pdf").string()));
+    bool began = false;
+    try {
+        paper::print({lesson({})}, writer, {.mark_costly = true, .between = [&](std::size_t) { began = true; }});
+        FAIL() << "nothing can be printed there";
+    } catch (const std::runtime_error& failure) {
+        EXPECT_STREQ(failure.what(), "the printer failed");
+    }
+    EXPECT_FALSE(began);
+}
+
 TEST_F(Paper, ComesFromTheCommandLine) {
     const std::string samples = SAMPLES_DIR;
     const std::string file = program.path("lessen.pdf").string();

@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# Runs outside.py in a session of its own: display, window manager, bus and the bus of screen readers.
+#   tests/deals_desktop/outside.sh PROGRAM SAMPLES PICTURES     DISPLAY_SIZE is that of the screen
+set -euo pipefail
+here=$(dirname "$0")
+if [ "${1:-}" != --inside ]; then
+    XDG_RUNTIME_DIR=$(mktemp -d)
+    export XDG_RUNTIME_DIR QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_QPA_PLATFORM=xcb
+    trap 'rm -rf "$XDG_RUNTIME_DIR"' EXIT
+    "$here/../../tools/display.sh" dbus-run-session -- "$0" --inside "$@"
+    exit
+fi
+/usr/libexec/at-spi-bus-launcher --launch-immediately &
+launcher=$!
+trap 'kill $launcher 2>/dev/null || true' EXIT
+/usr/bin/python3 -B "$here/outside.py" "${@:2}"
