@@ -1,12 +1,18 @@
-// Paints the program's icon in all sizes of a desktop's icon theme.
+// Paints the program's icon in all sizes of a desktop's icon theme, as the one file that Windows has it in, or on the
+// picture that stands beside the first and the last page of an installer.
 //   zandolin_icons FOLDER     FOLDER then has 16x16/apps/zandolin.png and the others
+//   zandolin_icons FILE.ico
+//   zandolin_icons FILE.bmp
 #include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 #include <QImage>
+#include <QPainter>
 #include <algorithm>
 #include <cstdlib>
 #include <iostream>
 
+#include "desktop/IconGroup.h"
 #include "desktop/PictureCache.h"
 #include "desktop/ProgramIcon.h"
 #include "resources/Icon.h"
@@ -15,6 +21,8 @@ namespace {
 
 constexpr int kSizes[] = {16, 24, 32, 48, 64, 128, 256, 512};
 constexpr int kLargest = 256;
+constexpr QSize kSidePicture(164, 314);
+constexpr int kSidePictureIcon = 128;
 
 // A size that the group lacks is painted from its largest drawing.
 QImage icon_of(int size) {
@@ -23,21 +31,46 @@ QImage icon_of(int size) {
     return desktop::PictureCache::render(resources::draw_icon(kLargest), QSize(size, size), 1).toImage();
 }
 
+bool write_theme(const QString& target) {
+    return std::ranges::all_of(kSizes, [&](int size) {
+        const QString folder = QStringLiteral("%1/%2x%2/apps").arg(target).arg(size);
+        return QDir().mkpath(folder) && icon_of(size).save(folder + "/zandolin.png");
+    });
+}
+
+bool write_group(const QString& target) {
+    QFile file(target);
+    const QByteArray bytes = desktop::icon_group();
+    return file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+bool write_side_picture(const QString& target) {
+    QImage picture(kSidePicture, QImage::Format_RGB32);
+    picture.fill(QColor(24, 42, 92));
+    QRect place({}, QSize(kSidePictureIcon, kSidePictureIcon));
+    place.moveCenter(picture.rect().center());
+    QPainter(&picture).drawImage(place, icon_of(kSidePictureIcon));
+    return picture.save(target);
+}
+
+bool write(const QString& target) {
+    if (target.endsWith(".ico")) return write_group(target);
+    return target.endsWith(".bmp") ? write_side_picture(target) : write_theme(target);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     if (argc != 2) {
-        std::cerr << "usage: zandolin_icons FOLDER\n";
+        std::cerr << "usage: zandolin_icons FOLDER|FILE.ico|FILE.bmp\n";
         return EXIT_FAILURE;
     }
-    for (const int size : kSizes) {
-        const QString folder = QStringLiteral("%1/%2x%2/apps").arg(argv[1]).arg(size);
-        if (!QDir().mkpath(folder) || !icon_of(size).save(folder + "/zandolin.png")) {
-            std::cerr << "cannot write into " << folder.toStdString() << "\n";
-            return EXIT_FAILURE;
-        }
+    const QString target = QString::fromLocal8Bit(argv[1]);
+    if (!write(target)) {
+        std::cerr << "cannot write " << argv[1] << "\n";
+        return EXIT_FAILURE;
     }
     return EXIT_SUCCESS;
 }

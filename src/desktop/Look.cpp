@@ -14,9 +14,14 @@ namespace {
 
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
 
+// The screens are laid out for the first; the others are those that come nearest on the two systems.
 const QString& family() {
-    static const QString name =
-        QFontDatabase::hasFamily(QStringLiteral("Verdana")) ? QStringLiteral("Verdana") : QStringLiteral("DejaVu Sans");
+    static const QString name = [] {
+        for (const char* wanted : {"Verdana", "Segoe UI", "DejaVu Sans"}) {
+            if (QFontDatabase::hasFamily(QLatin1StringView(wanted))) return QString::fromLatin1(wanted);
+        }
+        return QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
+    }();
     return name;
 }
 
