@@ -1,14 +1,19 @@
-// Paints the program's icon in all sizes of a desktop's icon theme, and writes it as a drawing for any size.
+// Paints the program's icon in all sizes of a desktop's icon theme and as a drawing for any size, as the one file that
+// Windows has it in, or on the picture that stands beside the first and the last page of an installer.
 //   zandolin_icons FOLDER     FOLDER then has 16x16/apps/zandolin.png, the others, and scalable/apps/zandolin.svg
+//   zandolin_icons FILE.ico
+//   zandolin_icons FILE.bmp
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
 #include <QImage>
+#include <QPainter>
 #include <QTextStream>
 #include <algorithm>
 #include <cstdlib>
 #include <iostream>
 
+#include "desktop/IconGroup.h"
 #include "desktop/Look.h"
 #include "desktop/PictureCache.h"
 #include "desktop/ProgramIcon.h"
@@ -18,6 +23,8 @@ namespace {
 
 constexpr int kSizes[] = {16, 22, 24, 32, 36, 48, 64, 72, 96, 128, 192, 256, 512};
 constexpr int kLargest = 256;
+constexpr QSize kSidePicture(164, 314);
+constexpr int kSidePictureIcon = 128;
 
 // A size that the group lacks is painted from its largest drawing.
 QImage icon_of(int size) {
@@ -70,21 +77,48 @@ bool write_svg(const QString& name) {
     return file.error() == QFileDevice::NoError;
 }
 
+bool write_theme(const QString& target) {
+    const QString drawings = QStringLiteral("%1/scalable/apps").arg(target);
+    if (!QDir().mkpath(drawings) || !write_svg(drawings + "/zandolin.svg")) return false;
+    return std::ranges::all_of(kSizes, [&](int size) {
+        const QString folder = QStringLiteral("%1/%2x%2/apps").arg(target).arg(size);
+        return QDir().mkpath(folder) && icon_of(size).save(folder + "/zandolin.png");
+    });
+}
+
+bool write_group(const QString& target) {
+    QFile file(target);
+    const QByteArray bytes = desktop::icon_group();
+    return file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+bool write_side_picture(const QString& target) {
+    QImage picture(kSidePicture, QImage::Format_RGB32);
+    picture.fill(QColor(24, 42, 92));
+    QRect place({}, QSize(kSidePictureIcon, kSidePictureIcon));
+    place.moveCenter(picture.rect().center());
+    QPainter(&picture).drawImage(place, icon_of(kSidePictureIcon));
+    return picture.save(target);
+}
+
+bool write(const QString& target) {
+    if (target.endsWith(".ico")) return write_group(target);
+    return target.endsWith(".bmp") ? write_side_picture(target) : write_theme(target);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     if (argc != 2) {
-        std::cerr << "usage: zandolin_icons FOLDER\n";
+        std::cerr << "usage: zandolin_icons FOLDER|FILE.ico|FILE.bmp\n";
         return EXIT_FAILURE;
     }
-    bool written = QDir().mkpath(QStringLiteral("%1/scalable/apps").arg(argv[1])) &&
-                   write_svg(QStringLiteral("%1/scalable/apps/zandolin.svg").arg(argv[1]));
-    for (const int size : kSizes) {
-        const QString folder = QStringLiteral("%1/%2x%2/apps").arg(argv[1]).arg(size);
-        written = written && QDir().mkpath(folder) && icon_of(size).save(folder + "/zandolin.png");
+    const QString target = QString::fromLocal8Bit(argv[1]);
+    if (!write(target)) {
+        std::cerr << "cannot write " << argv[1] << "\n";
+        return EXIT_FAILURE;
     }
-    if (!written) std::cerr << "cannot write into " << argv[1] << "\n";
-    return written ? EXIT_SUCCESS : EXIT_FAILURE;
+    return EXIT_SUCCESS;
 }

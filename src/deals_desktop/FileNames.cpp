@@ -1,5 +1,6 @@
 #include "deals_desktop/FileNames.h"
 
+#include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
 

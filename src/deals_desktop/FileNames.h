@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QFile>
+#include <QDir>
 #include <QFileInfo>
 #include <QString>
 #include <functional>
@@ -8,13 +8,13 @@
 
 class QWidget;
 
-// Names of files: as Qt has them, and as bytes of the system.
+// Names of files: as Qt has them, and in UTF-8 with the separators of the system.
 namespace deals_desktop {
 
 inline std::string path_of(const QString& file) {
-    return QFile::encodeName(QFileInfo(file).absoluteFilePath()).toStdString();
+    return QDir::toNativeSeparators(QFileInfo(file).absoluteFilePath()).toStdString();
 }
-inline QString file_of(const std::string& path) { return QFile::decodeName(path.c_str()); }
+inline QString file_of(const std::string& path) { return QString::fromStdString(path); }
 // Without its folder.
 inline QString name_of(const std::string& path) { return QFileInfo(file_of(path)).fileName(); }
 

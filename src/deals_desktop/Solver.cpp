@@ -1,18 +1,15 @@
 #include "deals_desktop/Solver.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <utility>
 
 #include "deals/Verdict.h"
 #include "exchange/DoubleDummy.h"
+#include "platform/Background.h"
 
 namespace deals_desktop {
 
 namespace {
-
-constexpr int kNice = 10;  // the window goes first
 
 std::optional<exchange::BestPlay> best_play_of(const exchange::Board& board) {
     deals::Verdict verdict = deals::verdict_of({}, board);
@@ -59,7 +56,7 @@ void Solver::stop() {
 }
 
 void Solver::solve(const std::stop_token& stop) {
-    [[maybe_unused]] const int nice_now = nice(kNice);  // of this thread alone
+    platform::work_in_background();  // the window goes first
     for (;;) {
         Job job;
         {

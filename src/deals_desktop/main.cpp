@@ -1,7 +1,6 @@
 // zandolin_deals_desktop: deals and lessons in a window, and on paper.
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QDir>
 #include <QMessageBox>
 #include <QTimer>
 #include <chrono>
@@ -10,6 +9,7 @@
 #include <string_view>
 
 #include "deals_desktop/DutchQt.h"
+#include "deals_desktop/FileNames.h"
 #include "deals_desktop/Reasons.h"
 #include "deals_desktop/Window.h"
 #include "deals_desktop/Words.h"
@@ -21,7 +21,7 @@ namespace {
 
 // The folder given, or the one that this copy of the program has; none, with a box, where that could not be made.
 std::optional<std::string> folder_or_box(const QString& given) {
-    if (!given.isEmpty()) return platform::path_text(QDir(given).absolutePath().toStdString());
+    if (!given.isEmpty()) return platform::path_text(platform::path_of(deals_desktop::path_of(given)));
     try {
         return platform::find_program_folder();
     } catch (const std::exception& failure) {

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFontDatabase>
 #include <QFontMetricsF>
+#include <algorithm>
 #include <cmath>
 
 #include "desktop/Text.h"
@@ -16,19 +17,22 @@ namespace {
 
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
 
-// A portable copy brings fonts for a machine that has neither.
+// A portable copy brings fonts for a machine that has none of the wanted.
 void add_own_fonts() {
     const QDir fonts(QCoreApplication::applicationDirPath() + QStringLiteral("/lib/fonts"));
     for (const QString& name : fonts.entryList({QStringLiteral("*.ttf")}, QDir::Files))
         QFontDatabase::addApplicationFont(fonts.filePath(name));
 }
 
+// The screens are laid out for the first; the others are those that come nearest on the two systems.
 QString found_family() {
-    for (const QString& name : {QStringLiteral("Verdana"), QStringLiteral("DejaVu Sans")}) {
-        if (QFontDatabase::hasFamily(name)) return name;
-    }
-    add_own_fonts();
-    return QStringLiteral("DejaVu Sans");
+    const QString wanted[] = {QStringLiteral("Verdana"), QStringLiteral("Segoe UI"), QStringLiteral("DejaVu Sans")};
+    const auto found = [&] {
+        return std::ranges::find_if(wanted, [](const QString& n) { return QFontDatabase::hasFamily(n); });
+    };
+    if (found() == std::end(wanted)) add_own_fonts();
+    if (const QString* const name = found(); name != std::end(wanted)) return *name;
+    return QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
 }
 
 const QString& family() {

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "desktop/FormWindow.h"
+#include "desktop/system/ForegroundWindow.h"
 #include "forms/Form.h"
 #include "forms/User.h"
 
@@ -151,6 +152,7 @@ void QtHost::closing(forms::Form& form) {
         raised_ = nullptr;
     }
     if (repainted_ == &form) repainted_ = nullptr;
+    system::put_in_front(*found->second);
     found->second->retire();
     retired_.push_back(std::move(found->second));
     form_windows_.erase(found);

@@ -16,8 +16,8 @@
 #include "desktop/Style.h"
 #include "desktop/Text.h"
 #include "desktop/Words.h"
+#include "desktop/system/PathNames.h"
 #include "desktop/system/QtPlatform.h"
-#include "platform/Paths.h"
 #include "platform/ProgramFolder.h"
 #include "services/Programma.h"
 
@@ -34,7 +34,7 @@ std::string program_folder(const QApplication& application) {
     parser.process(application);
     const QString given = parser.value(folder);
     return given.isEmpty() ? platform::find_program_folder()
-                           : platform::path_text(QDir(given).absolutePath().toStdString());
+                           : desktop::system::path_from_qt(QDir(given).absolutePath());
 }
 
 // Where the folder could not be made, the program has nothing to work on.

@@ -2,8 +2,11 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
+
+#include "platform/KeyLayout.h"
 
 namespace platform {
 
@@ -59,6 +62,11 @@ public:
 
     virtual void send_keys(const std::vector<KeyRecord>& records) = 0;
     virtual bool caps_lock() const = 0;
+    // Of the user's keyboard; without one that the system tells, of the standard one.
+    virtual std::optional<key_layout::KeyStroke> stroke_for(char character) const {
+        return key_layout::stroke_for(character);
+    }
+    virtual std::uint16_t scan_code(std::uint16_t key) const { return key_layout::scan_code(key); }
 };
 
 }  // namespace platform

@@ -30,6 +30,9 @@ struct Folder {
 
 namespace {
 
+// A drive without a medium is a failure of the call, and no box of the system's own about it.
+[[maybe_unused]] const UINT kErrorModeBefore = SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
+
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 class Handle {

@@ -7,7 +7,7 @@
 #include "forms/Form.h"
 #include "forms/TextBox.h"
 #include "forms/User.h"
-#include "services/KeyLayout.h"
+#include "platform/KeyLayout.h"
 
 namespace script::keyboard {
 
@@ -90,7 +90,7 @@ void send(forms::Windows& windows, const std::vector<platform::KeyRecord>& recor
     bool shift = false;
     for (const platform::KeyRecord& record : records) {
         const bool up = record.flags & kKeyUp;
-        if (record.virtual_key == services::key_layout::kShift) shift = !up;
+        if (record.virtual_key == platform::key_layout::kShift) shift = !up;
         forms::TextBox* box = focused_box(windows);
         if (up || !box) continue;
         if (record.flags & kUnicode) {

@@ -6,7 +6,7 @@
 
 #include "base/Text.h"
 #include "platform/CodePage.h"
-#include "services/KeyLayout.h"
+#include "platform/KeyLayout.h"
 #include "services/Programma.h"
 
 namespace services {
@@ -15,6 +15,7 @@ namespace MSendInput {
 
 namespace {
 
+namespace key_layout = platform::key_layout;
 using key_layout::KeyStroke;
 
 constexpr std::uint32_t kKeyboard = 1;
@@ -40,7 +41,8 @@ std::uint16_t unicode_of(char character) {
 // Reads a text token by token and collects the key events that it stands for.
 class Reader {
 public:
-    Reader(const std::string& text, bool caps_lock) : text_(text), caps_lock_(caps_lock) {}
+    Reader(const std::string& text, const platform::Platform& platform)
+        : text_(text), platform_(platform), caps_lock_(platform.caps_lock()) {}
 
     std::vector<platform::KeyRecord> read() {
         while (at_ < text_.size())
@@ -100,7 +102,7 @@ private:
         if (name.empty()) return;
         if (const auto named = key_layout::named_key(base::upper_case(name))) {
             press({named->key}, named->extended);
-        } else if (const auto stroke = key_layout::stroke_for(name[0])) {
+        } else if (const auto stroke = platform_.stroke_for(name[0])) {
             press(*stroke, false);  // Caps Lock has no say in braces.
         } else {
             send_unicode(unicode_of(name[0]));
@@ -109,7 +111,7 @@ private:
 
     void plain_character(char character) {
         const std::uint16_t value = unicode_of(character);
-        auto stroke = value <= 255 ? key_layout::stroke_for(character) : std::nullopt;
+        auto stroke = value <= 255 ? platform_.stroke_for(character) : std::nullopt;
         if (character == '~') stroke = KeyStroke{key_layout::kEnter};
         if (!stroke) return send_unicode(value);
         const bool letter = (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z');
@@ -126,7 +128,7 @@ private:
             add(key_layout::kAlt, 0, 0);
         }
         add(stroke.key, 0, flags);
-        add(stroke.key, key_layout::scan_code(stroke.key), flags + kReleased);
+        add(stroke.key, platform_.scan_code(stroke.key), flags + kReleased);
         if (stroke.control_alt) {
             add(key_layout::kControl, 0, kReleased);
             add(key_layout::kAlt, 0, kReleased);
@@ -144,6 +146,7 @@ private:
     }
 
     const std::string& text_;
+    const platform::Platform& platform_;
     const bool caps_lock_;
     std::size_t at_ = 0;  // characters consumed
     unsigned modifierVlaggen_ = 0;
@@ -153,7 +156,7 @@ private:
 }  // namespace
 
 void VerstuurToetsen(Programma& programma, const std::string& text, bool /*wachten*/) {
-    const std::vector<platform::KeyRecord> records = Reader(text, programma.platform.caps_lock()).read();
+    const std::vector<platform::KeyRecord> records = Reader(text, programma.platform).read();
     if (!records.empty()) programma.platform.send_keys(records);
 }
 

@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <QBuffer>
+#include <QImageReader>
 #include <string>
 
+#include "desktop/IconGroup.h"
 #include "resources/Icon.h"
 
 namespace {
@@ -32,6 +35,22 @@ TEST(ProgramIcon, HoldsEverySizeOnAnyScreen) {
     for (const int depth : {8, 16, 24, 32})
         EXPECT_EQ(desktop::program_icon(depth).availableSizes().size(), std::ssize(resources::kIconSizes));
     EXPECT_NE(desktop::program_icon(8).pixmap(32).toImage(), desktop::program_icon(24).pixmap(32).toImage());
+}
+
+// Read back by a reader of such files that others wrote.
+TEST(ProgramIcon, StandsInOneFileForWindows) {
+    QByteArray bytes = desktop::icon_group();
+    QBuffer file(&bytes);
+    QImageReader reader(&file, "ico");
+    ASSERT_EQ(reader.imageCount(), std::ssize(resources::kIconSizes) * std::ssize(resources::kIconDepths));
+    for (const int size : resources::kIconSizes) {
+        for (const int depth : resources::kIconDepths) {
+            SCOPED_TRACE(std::to_string(size) + " pixels at " + std::to_string(depth));
+            const QImage wanted = desktop::icon_image(size, depth).convertToFormat(QImage::Format_ARGB32);
+            EXPECT_EQ(reader.read().convertToFormat(QImage::Format_ARGB32), wanted);
+            reader.jumpToNextImage();
+        }
+    }
 }
 
 }  // namespace

@@ -16,6 +16,7 @@
 #include "desktop/FormWindow.h"
 #include "desktop/QtHost.h"
 #include "desktop/system/Drives.h"
+#include "desktop/system/PathNames.h"
 #include "desktop/system/QtPlatform.h"
 #include "services/Programma.h"
 
@@ -100,7 +101,7 @@ protected:
     void set(const std::string& section, const std::string& key, const std::string& value);
 
     QTemporaryDir temporary;
-    const std::string folder = temporary.filePath("het programma").toStdString();
+    const std::string folder = desktop::system::path_from_qt(temporary.filePath("het programma"));
     desktop::QtHost host;
     TestPlatform platform{host, folder, services::settings_file(folder)};
     services::Programma programma{platform, host};

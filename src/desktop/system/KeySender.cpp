@@ -39,7 +39,7 @@ QString text_of(int key, Qt::KeyboardModifiers held) {
 
 }  // namespace
 
-void send_keys(QWidget& receiver, const std::vector<platform::KeyRecord>& records) {
+void hand_keys(QWidget& receiver, const std::vector<platform::KeyRecord>& records) {
     const QPointer<QWidget> alive(&receiver);
     Qt::KeyboardModifiers held;
     for (const platform::KeyRecord& record : records) {

@@ -8,7 +8,9 @@ class QWidget;
 
 namespace desktop::system {
 
-// Hands the transitions of keys to the widget as if they came from the keyboard.
+// Transitions of keys as if they came from the keyboard. Where the system takes them, and the widget has the keys, they
+// go to the system and come back behind what is under way; otherwise they are handed to the widget at once.
 void send_keys(QWidget& receiver, const std::vector<platform::KeyRecord>& records);
+void hand_keys(QWidget& receiver, const std::vector<platform::KeyRecord>& records);
 
 }  // namespace desktop::system

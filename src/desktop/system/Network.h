@@ -31,6 +31,9 @@ public:
     bool download(const std::string& url, const std::string& path, const Limits& limits);
 
 private:
+    // The first bytes of a file; whether they are those of a program of this platform.
+    static bool begins_as_program(const QByteArray& head);
+
     std::unique_ptr<QNetworkAccessManager> manager_;
 };
 

@@ -3,17 +3,13 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCryptographicHash>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPainter>
-#include <QProcess>
 #include <QPushButton>
-#include <QUrl>
 #include <algorithm>
 
-#include "base/Fout.h"
 #include "desktop/Colours.h"
 #include "desktop/FormWindow.h"
 #include "desktop/QtHost.h"
@@ -22,40 +18,13 @@
 #include "desktop/system/Drives.h"
 #include "desktop/system/HelpViewer.h"
 #include "desktop/system/KeySender.h"
-#include "platform/Paths.h"
+#include "desktop/system/Opener.h"
+#include "desktop/system/PathNames.h"
 #include "platform/SpecialFolders.h"
 
 namespace desktop::system {
 
 namespace {
-
-// File names on disk may hold what Windows-1252 cannot; the look-up gives their real bytes back.
-QString real_path(const std::string& path) {
-    try {
-        return QString::fromStdString(platform::find_case_blind(path).string());
-    } catch (const base::Fout&) {  // What can't be looked up can't be opened either, and that is all.
-        return to_qt(path);
-    }
-}
-
-void start_program(const QString& program, const std::string& parameters, const std::string& folder) {
-    QFile file(program);
-    file.setPermissions(file.permissions() | QFileDevice::ExeUser | QFileDevice::ExeOwner);
-    QStringList arguments;
-    if (!parameters.empty()) {
-        QString argument = to_qt(parameters);
-        if (argument.size() > 1 && argument.startsWith('"') && argument.endsWith('"')) {
-            argument = argument.mid(1, argument.size() - 2);
-        }
-        arguments << argument;
-    }
-    const QString work = real_path(folder);
-    QProcess::startDetached(program, arguments, QFileInfo(work).isDir() ? work : QString());
-}
-
-bool is_program(const QFileInfo& file) {
-    return file.isExecutable() || file.suffix().isEmpty() || file.suffix().compare("exe", Qt::CaseInsensitive) == 0;
-}
 
 // The sign in a box that asks or tells something, for a screen with that ratio of physical to logical pixels.
 QPixmap sign(const QString& letter, double zoom, double pixel_ratio) {
@@ -85,7 +54,9 @@ std::string QtPlatform::special_folder(int number) const { return platform::spec
 
 bool QtPlatform::another_instance_runs() {
     if (lock_ && lock_->isLocked()) return false;
-    const QByteArray folder = QByteArray::fromStdString(program_folder_);
+    const QString given = path_to_qt(program_folder_);
+    const QString real = QFileInfo(given).canonicalFilePath();
+    const QByteArray folder = (real.isEmpty() ? given : real).toUtf8();
     const QString name = QCryptographicHash::hash(folder, QCryptographicHash::Sha1).toHex().left(16);
     lock_ = std::make_unique<QLockFile>(QDir::temp().filePath("zandolin-" + name + ".lock"));
     lock_->setStaleLockTime(0);
@@ -123,21 +94,13 @@ void QtPlatform::set_clipboard(const std::string& text) {
 }
 
 void QtPlatform::open(const std::string& file, const std::string& parameters, const std::string& folder) {
-    if (file.find("://") != std::string::npos) {
-        QDesktopServices::openUrl(QUrl(to_qt(file)));
-        return;
-    }
-    const QFileInfo info(real_path(file));
-    if (!info.isFile()) return;
-    if (is_program(info)) {
-        start_program(info.absoluteFilePath(), parameters, folder);
-    } else {
-        QDesktopServices::openUrl(QUrl::fromLocalFile(info.absoluteFilePath()));
-    }
+    const bool is_address = file.find("://") != std::string::npos;
+    const QString name = is_address ? to_qt(file) : path_to_qt(file);
+    if (is_address || QFileInfo(name).isFile()) open_by_system(name, to_qt(parameters), path_to_qt(folder));
 }
 
 void QtPlatform::show_help(const std::string& file) {
-    const QString path = QFileInfo(real_path(file)).absoluteFilePath();
+    const QString path = QFileInfo(path_to_qt(file)).absoluteFilePath();
     show_manual(path, [this, path] { tell_no_help(path); });
 }
 

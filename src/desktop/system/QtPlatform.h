@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "desktop/system/CapsLock.h"
+#include "desktop/system/KeyboardLayout.h"
 #include "desktop/system/Network.h"
 #include "platform/Platform.h"
 
@@ -41,6 +42,10 @@ public:
 
     void send_keys(const std::vector<platform::KeyRecord>& records) override;
     bool caps_lock() const override { return caps_lock_is_on(); }
+    std::optional<platform::key_layout::KeyStroke> stroke_for(char character) const override {
+        return system::stroke_for(character);
+    }
+    std::uint16_t scan_code(std::uint16_t key) const override { return system::scan_code(key); }
 
 private:
     void tell_no_help(const QString& file);

@@ -4,10 +4,10 @@
 #include <optional>
 #include <string>
 
-namespace services {
+namespace platform {
 
-// The keyboard as the key stroke synthesiser knows it: the standard layout of Dutch machines, which is the American
-// one with accented characters on Control plus Alt. Virtual keys are Windows' numbers, scan codes those of set 1.
+// The standard keyboard of Dutch machines, for a host that does not ask the system for the user's own: the American
+// layout with accented characters on Control plus Alt. Virtual keys are Windows' numbers, scan codes those of set 1.
 namespace key_layout {
 
 inline constexpr std::uint16_t kShift = 0x10;
@@ -37,4 +37,4 @@ std::uint16_t scan_code(std::uint16_t key);
 
 }  // namespace key_layout
 
-}  // namespace services
+}  // namespace platform

@@ -1,11 +1,11 @@
-#include "services/KeyLayout.h"
+#include "platform/KeyLayout.h"
 
 #include <algorithm>
 #include <array>
 #include <iterator>
 #include <map>
 
-namespace services {
+namespace platform {
 
 namespace key_layout {
 
@@ -138,4 +138,4 @@ std::uint16_t scan_code(std::uint16_t key) {
 
 }  // namespace key_layout
 
-}  // namespace services
+}  // namespace platform
