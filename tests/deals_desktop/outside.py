@@ -8,12 +8,12 @@ import shutil
 import subprocess
 import sys
 import tempfile
-import time
 
 import pyatspi
-from gi.repository import GLib
 
-PATIENCE = 60  # seconds
+import bus
+from bus import PATIENCE, box_of, check, pump, wait_for
+
 WINDOW = "Zandolin Lomert - Spellen en lessen"
 
 program, samples, pictures = sys.argv[1:]
@@ -21,56 +21,16 @@ pictures = pathlib.Path(pictures)
 folder = pathlib.Path(tempfile.mkdtemp())
 
 
-def pump(seconds):
-    """Lets events of the bus come in."""
-    end = time.time() + seconds
-    while time.time() < end:
-        while GLib.MainContext.default().pending():
-            GLib.MainContext.default().iteration(False)
-        time.sleep(0.02)
-
-
 def picture(name):
     subprocess.run(["import", "-window", "root", pictures / f"{name}.png"], check=True)
 
 
-def wait_for(what, condition):
-    end = time.time() + PATIENCE
-    while time.time() < end:
-        try:
-            found = condition()
-        except Exception:  # the tree changes while it is walked
-            found = None
-        if found:
-            return found
-        pump(0.1)
-    picture("failure")
-    for thing in everything():
-        print(thing.getRoleName(), "|", thing.name)
-    sys.exit("did not come: " + what)
-
-
-def application():
-    return next((a for a in pyatspi.Registry.getDesktop(0) if a and a.name == "zandolin_deals_desktop"), None)
-
-
-def walk(thing):
-    for child in thing:
-        if child is not None and child.getState().contains(pyatspi.STATE_SHOWING):
-            yield child
-            yield from walk(child)
-
-
 def everything():
-    return walk(application())
+    return bus.walk(bus.application("zandolin_deals_desktop"))
 
 
 def find(role, name):
     return next((t for t in everything() if t.getRoleName() == role and t.name.startswith(name)), None)
-
-
-def box_of(thing):
-    return thing.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
 
 
 def press_at(x, y):
@@ -79,8 +39,8 @@ def press_at(x, y):
 
 
 def click(role, name):
-    place = box_of(wait_for(f"{role} {name}", lambda: find(role, name)))
-    press_at(place.x + place.width // 2, place.y + place.height // 2)
+    bus.click(wait_for(f"{role} {name}", lambda: find(role, name)))
+    pump(0.2)
 
 
 def key(*keys):
@@ -102,7 +62,7 @@ def at(title):
 
 
 def cells_in_list():
-    return (t for t in walk(find("tree", "Spellen")) if t.getRoleName() == "table cell")
+    return (t for t in bus.walk(find("tree", "Spellen")) if t.getRoleName() == "table cell")
 
 
 def cell(name):
@@ -120,15 +80,6 @@ def messages():
 
 def told(text):
     wait_for("message " + text, lambda: any(text in line for line in messages()))
-
-
-def check(what, truth):
-    print(("ok: " if truth else "NOT: ") + what)
-    if not truth:
-        check.failed = True
-
-
-check.failed = False
 
 
 def check_places(what):
@@ -254,6 +205,11 @@ def main():
         type_a_deal()
         stop_the_reading()
         quit_with_a_typed_deal(process)
+    except TimeoutError:
+        picture("failure")
+        for thing in everything():
+            print(thing.getRoleName(), "|", thing.name)
+        raise
     finally:
         process.kill()
         shutil.rmtree(folder)

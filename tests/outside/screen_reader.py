@@ -7,69 +7,27 @@ import shutil
 import subprocess
 import sys
 import tempfile
-import time
 
 import pyatspi
-from gi.repository import GLib
 
-PATIENCE = 60  # seconds
-
-
-def wait_for(what, condition):
-    end = time.time() + PATIENCE
-    while time.time() < end:
-        try:
-            found = condition()
-        except Exception:  # the tree changes while it is walked
-            found = None
-        if found:
-            return found
-        pump(0.1)
-    sys.exit("did not come: " + what)
-
-
-def pump(seconds):
-    """Lets events of the bus come in."""
-    end = time.time() + seconds
-    while time.time() < end:
-        while GLib.MainContext.default().pending():
-            GLib.MainContext.default().iteration(False)
-        time.sleep(0.02)
-
-
-def visible(thing):
-    return thing.getState().contains(pyatspi.STATE_SHOWING)
-
-
-def everything(thing):
-    for child in thing:
-        if child is not None and visible(child):
-            yield child
-            yield from everything(child)
+import bus
+from bus import check, pump, wait_for
 
 
 def program():
-    return next((a for a in pyatspi.Registry.getDesktop(0) if a and a.name == "Zandolin Lomert"), None)
+    return bus.application("Zandolin Lomert")
+
+
+def everything():
+    return bus.walk(program())
 
 
 def find(role, name):
-    return next((t for t in everything(program()) if t.getRoleName() == role and t.name == name), None)
+    return next((t for t in everything() if t.getRoleName() == role and t.name == name), None)
 
 
 def click(role, name):
-    thing = wait_for(role + " " + name, lambda: find(role, name))
-    place = thing.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-    subprocess.run(["xdotool", "mousemove", str(place.x + place.width // 2), str(place.y + place.height // 2),
-                    "click", "1"], check=True)
-
-
-def check(what, truth):
-    print(("ok: " if truth else "NOT: ") + what)
-    if not truth:
-        check.failed = True
-
-
-check.failed = False
+    bus.click(wait_for(role + " " + name, lambda: find(role, name)))
 
 
 def press(*keys):
@@ -82,7 +40,7 @@ def walk_preparation(said):
     cards = [suit + " " + value for suit in ("Schoppen", "Harten", "Ruiten", "Klaveren")
              for value in ("Aas", "Heer", "Vrouw", "Boer", "10", "9", "8", "7", "6", "5", "4", "3", "2")]
     wait_for("the deal", lambda: find("label", cards[0]))
-    things = list(everything(program()))
+    things = list(everything())
     names = [t.name for t in things]
     check("each of the 52 cards is named once", all(names.count(card) == 1 for card in cards))
     check("question and answer have names",
@@ -108,7 +66,7 @@ def walk_editor():
     click("list item", "QVT_Spel 001")
 
     def markers():
-        return [t.name for t in everything(program()) if t.getRoleName() == "push button" and
+        return [t.name for t in everything() if t.getRoleName() == "push button" and
                 t.name.startswith("Nummer ")]
 
     wait_for("the texts", lambda: any(name.endswith(", met tekst") for name in markers()))
@@ -134,7 +92,7 @@ def main():
     try:
         wait_for("the program", program)
         wait_for("the list", lambda: find("list", "Spellen"))
-        main_screen = list(everything(program()))
+        main_screen = list(everything())
         check("every button of the main screen has a name",
               all(t.name for t in main_screen if t.getRoleName() == "push button"))
         check("they are seven and Downloaden", sum(t.getRoleName() == "push button" for t in main_screen) == 8)
@@ -142,10 +100,10 @@ def main():
         click("list item", "QVT_Spel 001")
         click("push button", "Tavrin")
         wait_for("the table", lambda: find("push button", "Start"))
-        names = [t.name for t in everything(program())]
+        names = [t.name for t in everything()]
         check("the contract is read with its suit", names[names.index("Zuid: 4") + 1] == "Harten")
         check("a place without a card is silent",
-              all(t.name for t in everything(program()) if t.getRoleName() == "image"))
+              all(t.name for t in everything() if t.getRoleName() == "image"))
         click("push button", "Start")
         wait_for("the first text", lambda: any("West legt ruitenaas op tafel" in words for words in said))
         check("the lead was told with its seat", any("West: Ruiten Aas" in words for words in said))

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Runs outside.py in a session of its own: display, window manager, bus and the bus of screen readers.
-#   tests/deals_desktop/outside.sh PROGRAM SAMPLES PICTURES     DISPLAY_SIZE is that of the screen
+# Runs a script of Python in a session of its own: display, window manager, bus and the bus of screen readers.
+#   tests/outside/bus.sh SCRIPT WORD...     DISPLAY_SIZE is that of the screen
 set -euo pipefail
 here=$(dirname "$0")
 if [ "${1:-}" != --inside ]; then
@@ -13,4 +13,4 @@ fi
 /usr/libexec/at-spi-bus-launcher --launch-immediately &
 launcher=$!
 trap 'kill $launcher 2>/dev/null || true' EXIT
-/usr/bin/python3 -B "$here/outside.py" "${@:2}"
+PYTHONPATH=$here /usr/bin/python3 -B "${@:2}"
