@@ -206,8 +206,8 @@ TEST_F(Files, FillAnEmptyFolderWholeOrNotAtAllWhicheverCallFails) {
             return found;
         }();
         EXPECT_TRUE(failure == 57 || failure == 0) << number;
-        if (names("naar") != both) EXPECT_EQ(names("naar"), Lines{}) << number;
-        if (failure == 0) EXPECT_EQ(bytes_of("naar/doel").size(), 100000U) << number;
+        const bool whole = names("naar") == both && bytes_of("naar/doel").size() == 100000;
+        EXPECT_TRUE(whole || (failure != 0 && names("naar").empty())) << number;
         EXPECT_EQ(names(), (Lines{"naar", "van"})) << number;
         ASSERT_LT(number, 100);
     }
