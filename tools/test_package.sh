@@ -60,6 +60,13 @@ window() {
     done
     echo "$found"
 }
+# Where no font is found a line of the list has boxes, of two colours.
+has_letters() {
+    local end=$((SECONDS + 20))
+    until [ "$(import -window "$1" -crop 150x45+255+50 -format %k info:)" -gt 8 ]; do
+        [ $SECONDS -lt $end ] || return 1
+    done
+}
 # plays PROGRAM FOLDER: goes to the table and back, ends, and looks at what that program folder holds.
 plays() {
     local main table
@@ -67,8 +74,7 @@ plays() {
     running=$!
     main=$(window "Zandolin Lomert") || { cat "$work/program.log"; fail "$1 shows no window"; }
     xdotool windowactivate --sync "$main" mousemove --window "$main" 280 38 click 1
-    # Where no font is found a line of the list has boxes, of two colours.
-    [ "$(import -window "$main" -crop 150x45+255+50 -format %k info:)" -gt 8 ] || fail "$1 has no letters"
+    has_letters "$main" || fail "$1 has no letters"
     xdotool mousemove --window "$main" 403 316 click 1
     table=$(window "Zandolin") || fail "$1 opens no table"
     xdotool windowactivate --sync "$table" key Escape
@@ -103,13 +109,14 @@ shows_deals() {
 portable() {
     apt install --no-install-recommends libegl1 libglx0 libopengl0 libice6 libsm6 libx11-xcb1 libdbus-1-3 libglib2.0-0 \
         fontconfig xkb-data
-    in_root rm -rf /usr/share/fonts  # it brings its letters
+    in_root mv /usr/share/fonts /srv/fonts  # it brings its letters
     as_user tar -C /home/docent -xzf "/srv/$(basename "$packages"/*.tar.gz)"
     as_user mv "/home/docent/Zandolin Lomert" "/home/docent/stick"
     plays /home/docent/stick/zandolin /home/docent/stick
     tells /home/docent/stick/zandolin_script
     shows_deals /home/docent/stick/zandolin_deals
     [ ! -e "$root/home/docent/Zandolin Lomert" ] || fail "the portable copy leaves something behind"
+    in_root mv /srv/fonts /usr/share/fonts
     ! in_root dpkg -s libqt6core6 >/dev/null 2>&1 || fail "there was Qt, and nothing is known of the portable copy"
 }
 
