@@ -246,10 +246,15 @@ int replace(const fs::path& from, const fs::path& to) {
     return MoveFileExW(source, target, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) == 0 ? set_errno() : 0;
 }
 
-// Nothing takes the place of a folder in one step.
+// Nothing takes the place of a folder in one step: one that could not be replaced comes back.
 int replace_folder(const fs::path& from, const fs::path& to) {
-    if (system_calls::remove_folder(to) != 0 && errno != ENOENT) return -1;
-    return system_calls::rename(from, to);
+    const bool there = system_calls::remove_folder(to) == 0;
+    if (!there && errno != ENOENT) return -1;
+    if (system_calls::rename(from, to) == 0) return 0;
+    const int error = errno;
+    if (there) make_folder(to);
+    errno = error;
+    return -1;
 }
 
 int remove(const fs::path& path) {

@@ -218,7 +218,7 @@ TEST_F(Files, FillAnEmptyFolderWholeOrNotAtAllWhicheverCallFails) {
 // more.
 TEST_F(Files, LeftBesideAFolderGoWithTheNextCopy) {
     put("van/doel", "n");
-    put("stick/.zandolin-nieuw-1-2/doel", "half");
+    put("stick/.zandolin-nieuw-1-2", "half");
     put("stick/.zandolin-nieuw-3-4/doel", "half");
     fs::last_write_time(folder / "stick/.zandolin-nieuw-1-2", fs::file_time_type::clock::now() - std::chrono::hours(2));
     fs::create_directory(folder / "stick/naar");
